@@ -1,0 +1,21 @@
+#include "TestMain.h"
+
+#include <clocale>
+
+namespace TestSupport {
+
+void prepareEnvironment(const QString& home)
+{
+    qputenv("HOME", home.toLocal8Bit());
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_DATA_HOME");
+    qputenv("LC_ALL", "C.UTF-8");
+    std::setlocale(LC_ALL, "C.UTF-8");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setOrganizationDomain(QStringLiteral("kivotrade.com"));
+    QCoreApplication::setApplicationName(QStringLiteral("tradeclient"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
+}
+
+} // namespace TestSupport

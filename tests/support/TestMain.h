@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace TestSupport {
+
+/// Offscreen, UTF-8, and a home directory of this process's own. Call before QApplication.
+void prepareEnvironment(const QString& home);
+
+} // namespace TestSupport
+
+/// main() of a test: prepared environment, application, one test class.
+#define TRADECONFIG_TEST_MAIN(TestClass)                                                           \
+    int main(int argc, char** argv)                                                                \
+    {                                                                                              \
+        const QTemporaryDir home;                                                                  \
+        TestSupport::prepareEnvironment(home.path());                                              \
+        const QApplication application(argc, argv);                                                \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }

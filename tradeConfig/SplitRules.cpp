@@ -1,0 +1,1 @@
+#include "tradeConfig/ITrade.h"
