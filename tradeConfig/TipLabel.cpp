@@ -1,0 +1,69 @@
+#include "tradeConfig/TipLabel.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QPropertyAnimation>
+
+namespace {
+
+constexpr int FadeMilliseconds = 2500;
+constexpr double OpaquePart = 0.6;
+
+/**
+ * An animation of an effect's opacity that runs to its end even when the effect is replaced.
+ *
+ * QPropertyAnimation stops without finished() in two cases: on the first step after its target's
+ * death, and when another animation starts on the same property of an object at the same
+ * address, which may be a later effect in the place of a dead one.
+ */
+class Fade : public QPropertyAnimation {
+public:
+    using QPropertyAnimation::QPropertyAnimation;
+
+protected:
+    void updateCurrentValue(const QVariant& value) override
+    {
+        if (targetObject())
+            QPropertyAnimation::updateCurrentValue(value);
+    }
+
+    // Leaves out QPropertyAnimation's table of running animations by target address.
+    void updateState(QAbstractAnimation::State newState,
+                     QAbstractAnimation::State oldState) override
+    {
+        QVariantAnimation::updateState(newState, oldState);
+    }
+};
+
+} // namespace
+
+CTipLabel::CTipLabel(const QString& text, bool isError, QWidget* parent)
+    : QLabel(parent)
+{
+    resize(160, 20);
+    setText(text);
+    setStyleSheet(isError ? QStringLiteral("color:red;") : QStringLiteral("color:green;"));
+}
+
+void CTipLabel::SetMessageLabel(const QString& text)
+{
+    setText(text);
+    // A fade that has ended leaves the label transparent; a new message is to be seen.
+    auto* const effect = qobject_cast<QGraphicsOpacityEffect*>(graphicsEffect());
+    if (effect && qFuzzyIsNull(effect->opacity()))
+        effect->setOpacity(1.0);
+}
+
+void CTipLabel::SetAutoHide()
+{
+    auto* const effect = new QGraphicsOpacityEffect(this);
+    effect->setOpacity(1.0);
+    setGraphicsEffect(effect);
+
+    auto* const fade = new Fade(effect, QByteArrayLiteral("opacity"), this);
+    fade->setDuration(FadeMilliseconds);
+    fade->setStartValue(1.0);
+    fade->setKeyValueAt(OpaquePart, 1.0);
+    fade->setEndValue(0.0);
+    fade->start(QAbstractAnimation::DeleteWhenStopped);
+    connect(fade, &QAbstractAnimation::finished, this, &QWidget::hide);
+}
