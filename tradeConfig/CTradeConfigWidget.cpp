@@ -1,0 +1,533 @@
+#include "tradeConfig/CTradeConfigWidget.h"
+
+#include "tradeConfig/ChoiceLists.h"
+#include "tradeConfig/ITrade.h"
+#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/MessageBox.h"
+#include "tradeConfig/ParmBinding.h"
+#include "tradeConfig/QuantityValidator.h"
+#include "tradeConfig/ShortcutTable.h"
+#include "tradeConfig/StyleMark.h"
+#include "tradeConfig/SwitchEx.h"
+#include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/TipLabel.h"
+#include "tradeConfig/platform/HostPlatform.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QEvent>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int interfacePageMode = 2;
+
+constexpr int largestQuantity = 10000000;
+constexpr int longestLockMinutes = 1000;
+constexpr int largestRisePercent = 100;
+
+// Where a tip stands beside its field. The field's position is relative to its own page while
+// the tip's is relative to the dialog; these offsets stand for the difference.
+constexpr int tipOffsetX = 130;
+constexpr int tipOffsetY = 62;
+
+struct Tip {
+    SplitRules::Verdict verdict;
+    const char* text;
+    int width;
+};
+
+constexpr Tip tips[] = {
+    {SplitRules::Verdict::BelowMinimum, QT_TRANSLATE_NOOP("CTradeConfigWidget", "不能小于100股"),
+     160},
+    {SplitRules::Verdict::UpperTooSmall,
+     QT_TRANSLATE_NOOP("CTradeConfigWidget", "上限不能小于下限或递减数量"), 200},
+    {SplitRules::Verdict::AboveUpper, QT_TRANSLATE_NOOP("CTradeConfigWidget", "不能大于上限"), 160},
+};
+
+const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
+
+} // namespace
+
+CTradeConfigWidget::CTradeConfigWidget(KivoTrade::ITrade* trade, QWidget* parent)
+    : QWidget(parent)
+{
+    ui.setupUi(this);
+    m_pTrade = trade;
+    qDebug("CTradeConfigWidget 1");
+    InitWidget();
+    qDebug("CTradeConfigWidget 2");
+    InitConnect();
+    qDebug("CTradeConfigWidget 3");
+    ReadAllParm();
+    qDebug("CTradeConfigWidget 4");
+    restartNeeded = false;
+}
+
+CTradeConfigWidget::~CTradeConfigWidget()
+{
+    // The bar does not free its items by itself.
+    switchBar->ClearAll();
+}
+
+void CTradeConfigWidget::InitWidget()
+{
+    for (QStackedWidget* const stack : {ui.stackedWidget, ui.stackedWidget_system,
+                                        ui.stackedWidget_trade, ui.stackedWidget_shortcut})
+        stack->setCurrentIndex(0);
+
+    initSwitchBar();
+
+    QStringList systemPages{tr("基础设置"), tr("联动设置")};
+    if (m_pTrade->GetTradeParm()->uiPageMode == interfacePageMode)
+        systemPages << tr("界面设置");
+    ui.widget_system->SetBtnList(systemPages);
+
+    // Kept in the form, loaded and saved, but not offered.
+    for (QWidget* const control : std::initializer_list<QWidget*>{
+             ui.label_14, ui.comboBox_system_fontSize, ui.label_15, ui.comboBox_system_language,
+             ui.label_8, ui.line_5, ui.label_9, ui.label_22, ui.comboBox_system_buyType,
+             ui.comboBox_system_sellType, ui.label_11, ui.comboBox_system_hqLink2})
+        control->hide();
+
+    // The splitting pages of the trade group are deliberately not listed.
+    ui.widget_trade->SetBtnList({tr("默认设置"), tr("提示设置")});
+    ui.widget_shortcut->SetBtnList({tr("普通快捷设置"), tr("信用快捷设置"), tr("全局交易设置")});
+
+    InitStockTable();
+    InitCreditTable();
+    InitWholeTable();
+
+    initValidators();
+    InitCombobox();
+
+    ui.comboBox_trade_kc_buyRise->installEventFilter(this);
+    ui.comboBox_trade_kc_sellRise->installEventFilter(this);
+    ui.comboBox_system_fontSize->setEnabled(true);
+    inputValidity.clear();
+
+    tipLabel = new CTipLabel(QString(), true, this);
+    tipLabel->hide();
+
+    ui.spinBox_scale->setValue(InterfaceSettings::scale());
+}
+
+void CTradeConfigWidget::initSwitchBar()
+{
+    switchBar = new CSwitchEx(ui.widget, Qt::Horizontal, QMargins(0, 0, 0, 0));
+    switchBar->setObjectName(QStringLiteral("switchex_widget"));
+    switchBar->setMinimumSize(0, 60);
+    switchBar->changeMode(CSwitchEx::ModeNavButton);
+    switchBar->setItemSize(219);
+    switchBar->setFixedWidth(657);
+    switchBar->setBackgroundColorEnable(false);
+
+    const QString groups[] = {tr("系统设置"), tr("交易设置"), tr("快捷键设置")};
+    SwitchItem* first = nullptr;
+    for (int index = 0; index < int(std::size(groups)); ++index) {
+        SwitchItem* const item = switchBar->AddNormalSwitch(
+            groups[index], [this, index] { SetCurrentIndex(index); }, false, nullptr);
+        if (index == 0)
+            first = item;
+    }
+    switchBar->SetCurSel(first, true);
+}
+
+void CTradeConfigWidget::initValidators()
+{
+    const auto* const shared = new QuantityValidator(0, largestQuantity, this);
+    const QList<QLineEdit*> edits = findChildren<QLineEdit*>();
+    for (QLineEdit* const edit : edits) {
+        edit->installEventFilter(this);
+        if (edit == ui.lineEdit_system_lockTime)
+            edit->setValidator(new QuantityValidator(0, longestLockMinutes, this));
+        else
+            edit->setValidator(shared);
+    }
+}
+
+void CTradeConfigWidget::InitConnect()
+{
+    connect(ui.widget_system, &CNavWidget::signal_onclicked, ui.stackedWidget_system,
+            &QStackedWidget::setCurrentIndex);
+    connect(ui.widget_trade, &CNavWidget::signal_onclicked, ui.stackedWidget_trade,
+            &QStackedWidget::setCurrentIndex);
+    connect(ui.widget_shortcut, &CNavWidget::signal_onclicked, ui.stackedWidget_shortcut,
+            &QStackedWidget::setCurrentIndex);
+
+    connect(ui.pushButton_cancle, &QPushButton::clicked, this, &CTradeConfigWidget::CloseDlg);
+    connect(ui.pushButton_confirm, &QPushButton::clicked, this, &CTradeConfigWidget::WriteAllParm);
+    connect(ui.pushButton_kc_buyRise, &QPushButton::clicked, this,
+            &CTradeConfigWidget::ChangeComboboxKcBuyRise);
+    connect(ui.pushButton_kc_sellRise, &QPushButton::clicked, this,
+            &CTradeConfigWidget::ChangeComboboxKcSellRise);
+
+    const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(ui.comboBox_trade_split, indexChanged, this, &CTradeConfigWidget::SelectFcSplit);
+    connect(ui.comboBox_trade_kc_split, indexChanged, this, &CTradeConfigWidget::SelectFcKcSplit);
+    connect(ui.checkBox_trade_fc, &QCheckBox::toggled, this, &CTradeConfigWidget::OnclickedChecked);
+    connect(ui.checkBox_trade_kc_fc, &QCheckBox::toggled, this,
+            &CTradeConfigWidget::OnclickedKcChecked);
+    connect(ui.comboBox_system_language, indexChanged, this, &CTradeConfigWidget::languageChanged);
+    connect(ui.comboBox_trade_kc_buyRise, &QComboBox::editTextChanged, this,
+            &CTradeConfigWidget::ChangeComboboxKcBuyRiseText);
+    connect(ui.comboBox_trade_kc_sellRise, &QComboBox::editTextChanged, this,
+            &CTradeConfigWidget::ChangeComboboxKcSellRiseText);
+
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    connect(ui.spinBox_scale, QOverload<const QString&>::of(&QSpinBox::valueChanged), this,
+            [this](const QString&) { restartNeeded = true; });
+    QT_WARNING_POP
+}
+
+void CTradeConfigWidget::InitCombobox() { ChoiceLists::fill(ui); }
+
+void CTradeConfigWidget::SetCurrentIndex(int index) { ui.stackedWidget->setCurrentIndex(index); }
+
+void CTradeConfigWidget::CloseDlg()
+{
+    QWidget* const target = parentWidget() ? parentWidget() : this;
+    target->close();
+}
+
+// Loading and saving
+
+void CTradeConfigWidget::ReadAllParm()
+{
+    using ParmBinding::Section;
+    const TradeParm& parm = *m_pTrade->GetTradeParm();
+
+    ParmBinding::load(Section::OrderEntry, parm, ui);
+    ParmBinding::loadDefaultPage(parm, ui);
+    ParmBinding::load(Section::Session, parm, ui);
+    loadLanguage();
+    ParmBinding::load(Section::Trading, parm, ui);
+
+    for (const SplitGroup* const group : splitGroups)
+        readSplitGroup(parm, *group);
+
+    ParmBinding::loadRiseChoices(parm, ui, RisePrice::buy);
+    ParmBinding::loadRiseChoices(parm, ui, RisePrice::sell);
+    ParmBinding::loadRiseIndex(parm, ui, RisePrice::buy);
+    ParmBinding::loadRiseIndex(parm, ui, RisePrice::sell);
+
+    stockShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::stockShortcuts);
+    creditShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::creditShortcuts);
+    readShortcuts(ShortcutTable::stock, stockShortcutTexts);
+    readShortcuts(ShortcutTable::credit, creditShortcutTexts);
+}
+
+// The signals are connected already, but a control that is set to the value it shows emits
+// none, so the state that depends on it is set by hand. A STAR strategy with a preset overwrites
+// the base quantity loaded just before; the limits come after it and stay as stored.
+void CTradeConfigWidget::readSplitGroup(const TradeParm& parm, const SplitGroup& group)
+{
+    const bool enabled = parm.*group.enabledValue == 1;
+    (ui.*group.enabled)->setChecked(enabled);
+    group.setInputsEnabled(ui, enabled);
+    (ui.*group.baseQuantity)->setText(QString::number(parm.*group.baseQuantityValue));
+
+    const int strategy = parm.*group.strategyValue;
+    (ui.*group.strategy)->setCurrentIndex(strategy);
+    if (strategy == 0)
+        group.select(ui, strategy);
+
+    (ui.*group.upperLimit)->setText(QString::number(parm.*group.upperLimitValue));
+    (ui.*group.lowerLimit)->setText(QString::number(parm.*group.lowerLimitValue));
+    (ui.*group.decrement)->setText(QString::number(parm.*group.decrementValue));
+}
+
+void CTradeConfigWidget::readShortcuts(const ShortcutTable& table, const QStringList& texts)
+{
+    for (int row = 0; row < texts.size(); ++row)
+        table.editor(ui, row)->setText(texts.at(row));
+}
+
+void CTradeConfigWidget::WriteAllParm()
+{
+    if (restartNeeded) {
+        saveUISettings();
+        restart();
+    }
+    if (!everyInputIsValid())
+        return;
+
+    TradeParm& parm = *m_pTrade->GetTradeParm();
+    ParmBinding::store(parm, ui);
+    ParmBinding::storeDefaultPage(parm, ui);
+    for (const SplitGroup* const group : splitGroups)
+        ParmBinding::storeSplitGroup(parm, ui, *group);
+    ParmBinding::storeRiseIndex(parm, ui, RisePrice::buy);
+    ParmBinding::storeRiseIndex(parm, ui, RisePrice::sell);
+    ParmBinding::storeRiseChoices(parm, ui, RisePrice::buy);
+    ParmBinding::storeRiseChoices(parm, ui, RisePrice::sell);
+    ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts,
+                                shownShortcuts(ShortcutTable::stock));
+    ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts,
+                                shownShortcuts(ShortcutTable::credit));
+
+    m_pTrade->SaveTradeParm();
+    CloseDlg();
+}
+
+QStringList CTradeConfigWidget::shownShortcuts(const ShortcutTable& table) const
+{
+    QStringList texts;
+    texts.reserve(ShortcutTable::rowCount);
+    for (int row = 0; row < ShortcutTable::rowCount; ++row)
+        texts << table.editor(ui, row)->text();
+    return texts;
+}
+
+bool CTradeConfigWidget::everyInputIsValid()
+{
+    for (auto entry = inputValidity.cbegin(); entry != inputValidity.cend(); ++entry) {
+        qDebug().noquote() << entry.key() << ":" << entry.value();
+        if (!entry.value()) {
+            QMessageBox::information(
+                this, tr("提示"),
+                tr("存在不合理的修改参数\n请把红色标记的值修改为绿色标记后再次点击确定！"));
+            return false;
+        }
+    }
+    return true;
+}
+
+// Interface settings
+
+void CTradeConfigWidget::loadLanguage()
+{
+    const QSignalBlocker blocker(ui.comboBox_system_language);
+    ui.comboBox_system_language->setCurrentIndex(InterfaceSettings::languageIndex());
+}
+
+void CTradeConfigWidget::saveUISettings()
+{
+    InterfaceSettings::save(ui.comboBox_system_language->currentIndex(), ui.spinBox_scale->value());
+}
+
+void CTradeConfigWidget::languageChanged(int index)
+{
+    m_pTrade->GetTradeParm()->languageIndex = index;
+    saveUISettings();
+    restart();
+}
+
+void CTradeConfigWidget::restart()
+{
+    const auto answer = CMessageBox::question(this, QMessageBox::Warning,
+                                              tr("部分修改需要重启后生效，确定现在重启吗？"));
+    if (answer != QMessageBox::Yes)
+        return;
+    const QDir home(QString::fromUtf8(ApplicationHomePath()));
+    QProcess::startDetached(home.absoluteFilePath(QStringLiteral("restart")),
+                            {QStringLiteral("jy")});
+    QCoreApplication::exit(0);
+}
+
+// Order splitting
+
+void CTradeConfigWidget::OnclickedChecked(bool checked)
+{
+    SplitGroup::stock.setInputsEnabled(ui, checked);
+}
+
+void CTradeConfigWidget::OnclickedKcChecked(bool checked)
+{
+    SplitGroup::star.setInputsEnabled(ui, checked);
+}
+
+void CTradeConfigWidget::SelectFcSplit(int index) { SplitGroup::stock.select(ui, index); }
+
+void CTradeConfigWidget::SelectFcKcSplit(int index) { SplitGroup::star.select(ui, index); }
+
+bool CTradeConfigWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut)
+        focusLeft(watched);
+    return QWidget::eventFilter(watched, event);
+}
+
+void CTradeConfigWidget::focusLeft(QObject* watched)
+{
+    if (watched == ui.comboBox_trade_kc_buyRise) {
+        endRiseEdit(RisePrice::buy, starBuyRiseText);
+        return;
+    }
+    if (watched == ui.comboBox_trade_kc_sellRise) {
+        endRiseEdit(RisePrice::sell, starSellRiseText);
+        return;
+    }
+    for (const SplitGroup* const group : splitGroups) {
+        for (const SplitRules::Field field : SplitRules::allFields) {
+            if (watched == group->edit(ui, field)) {
+                checkSplitField(*group, field);
+                return;
+            }
+        }
+    }
+}
+
+void CTradeConfigWidget::checkSplitField(const SplitGroup& group, SplitRules::Field field)
+{
+    QLineEdit& edit = *group.edit(ui, field);
+    const SplitRules::Verdict verdict = SplitRules::check(field, group.quantities(ui));
+    const bool accepted = verdict == SplitRules::Verdict::Accepted;
+    StyleMark::set(edit, accepted);
+    if (accepted) {
+        CheckSplitIsOk(edit.objectName());
+    } else {
+        const auto* const tip
+            = std::find_if(std::begin(tips), std::end(tips), [verdict](const Tip& candidate) {
+                  return candidate.verdict == verdict;
+              });
+        ShowInputErrorMsg(&edit, tr(tip->text), tip->width);
+    }
+    if (verdict == SplitRules::Verdict::UpperTooSmall) {
+        // The conflicting values must be seen, whatever the strategy shows.
+        group.setLowerLimitVisible(ui, true);
+        group.setDecrementVisible(ui, true);
+    }
+    inputValidity[edit.objectName()] = accepted;
+}
+
+void CTradeConfigWidget::CheckSplitIsOk(QString name)
+{
+    for (const SplitGroup* const group : splitGroups) {
+        for (const SplitRules::Field passed : SplitRules::allFields) {
+            if (group->edit(ui, passed)->objectName() != name)
+                continue;
+            const SplitRules::Quantities quantities = group->quantities(ui);
+            for (const SplitRules::Field companion : SplitRules::allFields) {
+                QLineEdit& edit = *group->edit(ui, companion);
+                const auto entry = inputValidity.find(edit.objectName());
+                if (entry == inputValidity.end() || entry.value()
+                    || !SplitRules::clearsCompanion(passed, companion, quantities))
+                    continue;
+                StyleMark::set(edit, true);
+                entry.value() = true;
+            }
+            return;
+        }
+    }
+}
+
+void CTradeConfigWidget::ShowInputErrorMsg(QObject* watched, QString text, int width)
+{
+    const auto* const input = qobject_cast<QWidget*>(watched);
+    if (!input)
+        return;
+    tipLabel->hide();
+    tipLabel->SetMessageLabel(text);
+    const QRect field = input->geometry();
+    tipLabel->setGeometry(field.x() + field.width() + tipOffsetX, field.y() + tipOffsetY, width,
+                          field.height());
+    tipLabel->show();
+    tipLabel->SetAutoHide();
+}
+
+// STAR-board protection prices
+
+void CTradeConfigWidget::ChangeComboboxKcBuyRise()
+{
+    beginRiseEdit(RisePrice::buy, starBuyRiseText);
+}
+
+void CTradeConfigWidget::ChangeComboboxKcSellRise()
+{
+    beginRiseEdit(RisePrice::sell, starSellRiseText);
+}
+
+void CTradeConfigWidget::ChangeComboboxKcBuyRiseText(QString text) { starBuyRiseText = text; }
+
+void CTradeConfigWidget::ChangeComboboxKcSellRiseText(QString text) { starSellRiseText = text; }
+
+void CTradeConfigWidget::beginRiseEdit(const RisePrice& price, QString& text)
+{
+    QComboBox& combo = *(ui.*price.combo);
+    combo.setEditable(true);
+    // A percentage that nobody typed must not be stored.
+    combo.setCompleter(nullptr);
+    // Before the button is disabled: a disabled button hands its focus to the next widget, and
+    // a field that is only passed by would be checked when it loses it again.
+    combo.setFocus();
+    (ui.*price.editButton)->setEnabled(false);
+    text = combo.currentText();
+    combo.setValidator(new QuantityValidator(0, largestRisePercent, this));
+}
+
+void CTradeConfigWidget::endRiseEdit(const RisePrice& price, const QString& text)
+{
+    QComboBox& combo = *(ui.*price.combo);
+    if (!combo.isEditable())
+        return;
+    combo.setEditable(false);
+    (ui.*price.editButton)->setEnabled(true);
+    combo.setItemText(combo.currentIndex(), text);
+}
+
+// Hotkey tables
+
+void CTradeConfigWidget::InitStockTable()
+{
+    ShortcutTable::stock.build(ui, [this](CTableLineEdit* editor) {
+        connect(editor, &CTableLineEdit::signal_editFinished, this,
+                &CTradeConfigWidget::CellEditFinished);
+    });
+}
+
+void CTradeConfigWidget::InitCreditTable()
+{
+    ShortcutTable::credit.build(ui, [this](CTableLineEdit* editor) {
+        connect(editor, &CTableLineEdit::signal_editFinished, this,
+                &CTradeConfigWidget::CellEditFinished2);
+    });
+}
+
+void CTradeConfigWidget::InitWholeTable() { ShortcutTable::buildGlobal(ui); }
+
+void CTradeConfigWidget::CellEditFinished(int row, QString text)
+{
+    keyCaptured(ShortcutTable::stock, stockShortcutTexts, row, text);
+}
+
+void CTradeConfigWidget::CellEditFinished2(int row, QString text)
+{
+    keyCaptured(ShortcutTable::credit, creditShortcutTexts, row, text);
+}
+
+void CTradeConfigWidget::SetLineEditEnable(int row, bool enable)
+{
+    ShortcutTable::stock.setOthersEnabled(ui, row, enable);
+}
+
+void CTradeConfigWidget::SetLineEditEnable2(int row, bool enable)
+{
+    ShortcutTable::credit.setOthersEnabled(ui, row, enable);
+}
+
+void CTradeConfigWidget::keyCaptured(const ShortcutTable& table, QStringList& texts, int row,
+                                     const QString& text)
+{
+    if (row < 0 || row >= texts.size())
+        return;
+    if (table.ignoresUnchangedKey && texts.at(row) == text)
+        return;
+
+    const ShortcutTable::Check check = table.check(texts, row, text);
+    if (check.verdict != ShortcutTable::Verdict::GlobalHotkey)
+        texts[row] = text;
+    table.showVerdict(ui, row, text, check);
+    if (check.verdict == ShortcutTable::Verdict::Emptied)
+        return;
+
+    const bool accepted = check.verdict == ShortcutTable::Verdict::Accepted;
+    table.setOthersEnabled(ui, row, accepted);
+    inputValidity[QLatin1String(table.validityKey)] = accepted;
+    if (table.changeLog)
+        qDebug() << table.changeLog << texts;
+}

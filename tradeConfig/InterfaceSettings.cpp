@@ -1,0 +1,62 @@
+#include "tradeConfig/InterfaceSettings.h"
+
+#include "tradeConfig/platform/HostPlatform.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+
+namespace {
+
+constexpr const char* languageCodes[] = {"zh_CN", "zh_TW", "en_US"};
+
+QString languageKey() { return QStringLiteral("UI/language"); }
+
+QString scaleKey() { return QStringLiteral("UI/scale"); }
+
+QString languageCode(int index)
+{
+    const bool known = index > 0 && index < int(std::size(languageCodes));
+    return QLatin1String(languageCodes[known ? index : 0]);
+}
+
+} // namespace
+
+namespace InterfaceSettings {
+
+QString filePath()
+{
+    QDir directory(QString::fromUtf8(ApplicationHomePath()));
+    directory.cd(QStringLiteral("config"));
+    return directory.absoluteFilePath(QStringLiteral("system_settings.ini"));
+}
+
+int languageIndex()
+{
+    const QSettings settings(filePath(), QSettings::IniFormat);
+    const QString code = settings.value(languageKey(), languageCode(0)).toString();
+    for (int index = 1; index < int(std::size(languageCodes)); ++index) {
+        if (code == QLatin1String(languageCodes[index]))
+            return index;
+    }
+    return 0;
+}
+
+int scale()
+{
+    const QSettings settings(filePath(), QSettings::IniFormat);
+    return settings.value(scaleKey()).toInt();
+}
+
+void save(int languageIndex, int scale)
+{
+    const QString path = filePath();
+    QSettings settings(path, QSettings::IniFormat);
+    if (settings.status() == QSettings::FormatError)
+        QFile::copy(path, path + QStringLiteral(".bad"));
+    settings.setValue(languageKey(), languageCode(languageIndex));
+    settings.setValue(scaleKey(), scale);
+    settings.sync();
+}
+
+} // namespace InterfaceSettings

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QIntValidator>
+
+/**
+ * Accepts the empty text and decimal digits whose value lies within the range, nothing else.
+ *
+ * QIntValidator alone lets a number out of range be typed as long as it has no more digits than
+ * the top, and signs and group separators anywhere; a text read back with toInt() would then
+ * come out as zero or beyond the range. The bottom is expected not to be negative.
+ */
+class QuantityValidator : public QIntValidator {
+    Q_OBJECT
+
+public:
+    QuantityValidator(int bottom, int top, QObject* parent);
+
+    /// Intermediate: empty, or below the bottom but still growing. Invalid: refused as typed.
+    State validate(QString& input, int& position) const override;
+};

@@ -1,0 +1,193 @@
+#include "tradeConfig/ShortcutTable.h"
+
+#include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/StyleMark.h"
+#include "tradeConfig/TableLineEdit.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+
+namespace {
+
+enum Column { FunctionColumn, KeyColumn, StatusColumn, ColumnCount };
+
+struct GlobalHotkey {
+    const char* function;
+    const char* key;
+};
+
+constexpr const char* normalStatus = QT_TRANSLATE_NOOP("CTradeConfigWidget", "正常");
+
+constexpr const char* headers[ColumnCount] = {
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "功能说明"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "键位设定"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "设置说明"),
+};
+
+constexpr const char* functions[ShortcutTable::rowCount] = {
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "买入股票"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "卖出股票"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "撤单"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "查询"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "持仓"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "成交"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "委托"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "全撤"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "撤买"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "撤卖"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "撤最后"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "批量下单-买入"),
+    QT_TRANSLATE_NOOP("CTradeConfigWidget", "批量下单-卖出"),
+};
+
+constexpr GlobalHotkey globalHotkeys[] = {
+    {QT_TRANSLATE_NOOP("CTradeConfigWidget", "刷新"), "F5"},
+    {QT_TRANSLATE_NOOP("CTradeConfigWidget", "显示/隐藏交易模块"), "F12"},
+};
+
+bool isGlobalHotkey(const QString& text)
+{
+    return std::any_of(
+        std::begin(globalHotkeys), std::end(globalHotkeys),
+        [&text](const GlobalHotkey& hotkey) { return text == QLatin1String(hotkey.key); });
+}
+
+// The header's sheet comes before columns and rows, and each editor's sheet after it stands in
+// its cell: the other way round every later change would be styled once more.
+void setUp(QTableWidget& table, int rows)
+{
+    table.setFrameShape(QFrame::NoFrame);
+    QHeaderView& header = *table.horizontalHeader();
+    header.setSectionResizeMode(QHeaderView::Stretch);
+    header.setEnabled(false);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header.setStyleSheet(QStringLiteral("background-color:rgba(235,235,235,0.28);font:18px;"
+                                        "QHeaderView::section{font:18px '宋体'; "
+                                        "padding-left:2px; }"));
+    // The sheet is translucent; without a ground of its own the header shows unpainted memory.
+    header.viewport()->setAutoFillBackground(true);
+    header.setFixedHeight(37);
+    table.verticalHeader()->setVisible(false);
+    table.verticalHeader()->setDefaultSectionSize(37);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+
+    table.setColumnCount(ColumnCount);
+    QStringList labels;
+    for (const char* const text : headers)
+        labels << CTradeConfigWidget::tr(text);
+    table.setHorizontalHeaderLabels(labels);
+    table.setRowCount(rows);
+}
+
+void setReadOnlyItem(QTableWidget& table, int row, int column, const char* text)
+{
+    auto* const item = new QTableWidgetItem(CTradeConfigWidget::tr(text));
+    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+    table.setItem(row, column, item);
+}
+
+CTableLineEdit* addRow(QTableWidget& table, int row, const char* function)
+{
+    setReadOnlyItem(table, row, FunctionColumn, function);
+    setReadOnlyItem(table, row, StatusColumn, normalStatus);
+    auto* const editor = new CTableLineEdit(row);
+    table.setCellWidget(row, KeyColumn, editor);
+    editor->setStyleSheet(QStringLiteral("border:0px;"));
+    return editor;
+}
+
+} // namespace
+
+const ShortcutTable ShortcutTable::stock = {
+    &Ui_CTradeConfigWidget::tableWidget_shortcut,
+    "stcokShortcut", // spelled so: hosts and logs know the entry by this name
+    true,
+    false,
+};
+
+const ShortcutTable ShortcutTable::credit = {
+    &Ui_CTradeConfigWidget::tableWidget_credit,
+    "creditShortcut",
+    false,
+    true,
+    "edit m_shortCutList2 ",
+};
+
+void ShortcutTable::build(const Ui_CTradeConfigWidget& ui, const Capture& prepare) const
+{
+    QTableWidget& widget = *(ui.*table);
+    setUp(widget, rowCount);
+    for (int row = 0; row < rowCount; ++row)
+        prepare(addRow(widget, row, functions[row]));
+}
+
+void ShortcutTable::buildGlobal(const Ui_CTradeConfigWidget& ui)
+{
+    QTableWidget& widget = *ui.tableWidget_whole;
+    setUp(widget, int(std::size(globalHotkeys)));
+    for (int row = 0; row < int(std::size(globalHotkeys)); ++row) {
+        CTableLineEdit* const editor = addRow(widget, row, globalHotkeys[row].function);
+        editor->setText(QLatin1String(globalHotkeys[row].key));
+        editor->setEnabled(false);
+    }
+}
+
+ShortcutTable::Check ShortcutTable::check(const QStringList& texts, int row,
+                                          const QString& text) const
+{
+    if (refusesGlobalHotkeys && isGlobalHotkey(text))
+        return {Verdict::GlobalHotkey, -1};
+    if (text.isEmpty())
+        return {Verdict::Emptied, -1};
+    const int duplicate = firstDuplicate(texts, row, text);
+    return {duplicate < 0 ? Verdict::Accepted : Verdict::Duplicate, duplicate};
+}
+
+int ShortcutTable::firstDuplicate(const QStringList& texts, int row, const QString& text)
+{
+    for (int index = 0; index < texts.size(); ++index) {
+        if (index != row && texts.at(index) == text)
+            return index;
+    }
+    return -1;
+}
+
+void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, int row, const QString& text,
+                                const Check& check) const
+{
+    const QTableWidget& widget = *(ui.*table);
+    if (check.verdict == Verdict::Emptied) {
+        editor(ui, row)->setText(CTradeConfigWidget::tr("空"));
+        return;
+    }
+
+    const bool accepted = check.verdict == Verdict::Accepted;
+    StyleMark::set(*editor(ui, row), accepted);
+    QString status;
+    if (accepted)
+        status = CTradeConfigWidget::tr(normalStatus);
+    else if (check.verdict == Verdict::GlobalHotkey)
+        //: %1 is a key such as F5
+        status = CTradeConfigWidget::tr("%1为全局快捷键！").arg(text);
+    else
+        //: %1 is the trading function that already has the key
+        status = CTradeConfigWidget::tr("与%1重复")
+                     .arg(widget.item(check.duplicateRow, FunctionColumn)->text());
+    QTableWidgetItem& item = *widget.item(row, StatusColumn);
+    item.setForeground(QBrush(accepted ? Qt::green : Qt::red));
+    item.setText(status);
+}
+
+void ShortcutTable::setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, bool enable) const
+{
+    const QTableWidget& widget = *(ui.*table);
+    for (int other = 0; other < widget.rowCount(); ++other) {
+        if (other != row)
+            editor(ui, other)->setEnabled(enable);
+    }
+}
+
+CTableLineEdit* ShortcutTable::editor(const Ui_CTradeConfigWidget& ui, int row) const
+{
+    return qobject_cast<CTableLineEdit*>((ui.*table)->cellWidget(row, KeyColumn));
+}

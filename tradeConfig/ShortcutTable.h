@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+class CTableLineEdit;
+class QTableWidget;
+class Ui_CTradeConfigWidget;
+
+/**
+ * The hotkey tables: how they are built, how a captured key is judged, how the verdict is shown.
+ *
+ * A stateless description; the key texts and the verdicts belong to the dialog. The ordinary and
+ * the credit table are two values of this type.
+ */
+struct ShortcutTable {
+    static constexpr int rowCount = 13;
+
+    enum class Verdict { Accepted, Emptied, GlobalHotkey, Duplicate };
+
+    struct Check {
+        Verdict verdict = Verdict::Accepted;
+        int duplicateRow = -1; ///< the first row that holds the same key; Duplicate only
+    };
+
+    using Capture = std::function<void(CTableLineEdit* editor)>;
+
+    QTableWidget* Ui_CTradeConfigWidget::*table;
+    const char* validityKey; ///< the table's entry in the dialog's validity map
+    bool refusesGlobalHotkeys; ///< a global hotkey is an error here
+    bool ignoresUnchangedKey; ///< capturing the key already held does nothing
+    const char* changeLog = nullptr; ///< heads a debug line with all keys after each verdict
+
+    /// Columns, rows, functions and one key-capture editor a row; @p prepare sees each editor
+    /// once it stands in the table.
+    void build(const Ui_CTradeConfigWidget& ui, const Capture& prepare) const;
+
+    /// Judges @p text captured in @p row beside @p texts, the keys of all rows in row order. The
+    /// row's own entry in @p texts does not matter.
+    Check check(const QStringList& texts, int row, const QString& text) const;
+
+    /// Colours the row's editor and sets its status for @p check.
+    void showVerdict(const Ui_CTradeConfigWidget& ui, int row, const QString& text,
+                     const Check& check) const;
+
+    /// Enables or disables the editors of every row except @p row.
+    void setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, bool enable) const;
+
+    /// The editor in the key column; null outside the table.
+    CTableLineEdit* editor(const Ui_CTradeConfigWidget& ui, int row) const;
+
+    /// The first entry equal to @p text, in ascending order and leaving out @p row; -1 if none.
+    static int firstDuplicate(const QStringList& texts, int row, const QString& text);
+
+    /// The table of the fixed global hotkeys: read-only.
+    static void buildGlobal(const Ui_CTradeConfigWidget& ui);
+
+    static const ShortcutTable stock;
+    static const ShortcutTable credit;
+};

@@ -1,0 +1,57 @@
+#include "tradeConfig/TableLineEdit.h"
+
+#include <QDebug>
+#include <QKeyEvent>
+#include <QKeySequence>
+
+CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
+    : QLineEdit(parent)
+    , row(tableRow)
+{
+    QFont cellFont = font();
+    cellFont.setPointSize(11);
+    setFont(cellFont);
+    // Shuts out input methods, paste, drops and the middle button; setText still works.
+    setReadOnly(true);
+    connect(this, &QLineEdit::editingFinished, this, &CTableLineEdit::EditFinished);
+}
+
+void CTableLineEdit::EditFinished() { }
+
+bool CTableLineEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        // Otherwise the window's shortcuts would take their keys before this editor sees them.
+        const auto* const keyEvent = static_cast<QKeyEvent*>(event);
+        const bool movesFocus
+            = (keyEvent->key() == Qt::Key_Tab || keyEvent->key() == Qt::Key_Backtab)
+            && !(keyEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+        event->setAccepted(!movesFocus);
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void CTableLineEdit::keyPressEvent(QKeyEvent* event)
+{
+    int key = event->key();
+    if (key == Qt::Key_unknown) {
+        qDebug("Unknown key from a macro probably");
+        return;
+    }
+    if (key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_Meta)
+        return;
+
+    const Qt::KeyboardModifiers modifiers = event->modifiers();
+    if (modifiers & Qt::ShiftModifier)
+        key += Qt::SHIFT;
+    if (modifiers & Qt::ControlModifier)
+        key += Qt::CTRL;
+    if (modifiers & Qt::AltModifier)
+        key += Qt::ALT;
+    if (modifiers & Qt::MetaModifier)
+        return;
+
+    setText(QKeySequence(key).toString(QKeySequence::NativeText));
+    emit signal_editFinished(row, text());
+}

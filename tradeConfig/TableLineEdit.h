@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QLineEdit>
+
+/**
+ * The key-capture cell of a hotkey table.
+ *
+ * Each key press, with the modifiers held, becomes the native-format text of a one-chord key
+ * sequence, shown at once. Nothing else the user does puts text into the cell. Modifiers alone,
+ * chords with Meta and unknown keys change nothing; Tab and Shift+Tab move the focus as ever.
+ */
+class CTableLineEdit : public QLineEdit {
+    Q_OBJECT
+
+public:
+    /// @p row is the table row that this editor belongs to and reports.
+    explicit CTableLineEdit(int row, QWidget* parent = nullptr);
+
+public slots:
+    /// Deliberately empty: finishing an edit by Return or by leaving reports nothing.
+    void EditFinished();
+
+signals:
+    /// After every accepted key press, also when it repeats the key already shown.
+    void signal_editFinished(int row, QString text);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    int row;
+};
