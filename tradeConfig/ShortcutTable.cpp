@@ -65,7 +65,7 @@ void setUp(QTableWidget& table, int rows)
                                         "QHeaderView::section{font:18px '宋体'; "
                                         "padding-left:2px; }"));
     // The sheet is translucent; without a ground of its own the header shows unpainted memory.
-    header.viewport()->setAutoFillBackground(true);
+    header.viewport()->setAutoFillBackground(false);
     header.setFixedHeight(37);
     table.verticalHeader()->setVisible(false);
     table.verticalHeader()->setDefaultSectionSize(37);

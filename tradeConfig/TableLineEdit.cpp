@@ -44,11 +44,11 @@ void CTableLineEdit::keyPressEvent(QKeyEvent* event)
 
     const Qt::KeyboardModifiers modifiers = event->modifiers();
     if (modifiers & Qt::ShiftModifier)
-        key += Qt::SHIFT;
+        key += int(Qt::SHIFT);
     if (modifiers & Qt::ControlModifier)
-        key += Qt::CTRL;
+        key += int(Qt::CTRL);
     if (modifiers & Qt::AltModifier)
-        key += Qt::ALT;
+        key += int(Qt::ALT);
     if (modifiers & Qt::MetaModifier)
         return;
 
