@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+/// What the command line asks for.
+struct ClientOptions {
+    Q_DECLARE_TR_FUNCTIONS(ClientOptions)
+
+public:
+    QString screenshotDirectory; ///< empty: none wanted
+    QString module; ///< empty: the one beside this program
+    bool printRecord = false;
+
+    /// Reads the arguments of the running application. Ends the process for --help and
+    /// --version (status 0) and for arguments that it does not know (status 1).
+    static ClientOptions parse();
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QSortFilterProxyModel>
+
+class DataDirectory;
+class QLabel;
+class QLineEdit;
+class QTableView;
+class RecordModel;
+class SettingsModule;
+class SettingsWindow;
+class TradeCore;
+
+/// Shows only the rows that match a text, or only those that the last confirm changed.
+class RecordFilter : public QSortFilterProxyModel {
+    Q_OBJECT
+
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+    void setChangedOnly(bool changedOnly);
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+private:
+    bool m_changedOnly = false;
+};
+
+/// The client's window: the record as it stands, and the way to the settings.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// The arguments must outlive the window.
+    MainWindow(const SettingsModule& module, TradeCore& core, const DataDirectory& directory,
+               QWidget* parent = nullptr);
+
+    /// Opens the settings, or brings them to the front when they are open.
+    void openSettings();
+    SettingsWindow* settingsWindow() const;
+    RecordModel* model() const { return m_model; }
+
+private:
+    void buildActions();
+    void buildView();
+    void showCommit();
+    void showStoringFailure(const QString& reason);
+    void showAbout();
+
+    const SettingsModule& m_module;
+    TradeCore& m_core;
+    const DataDirectory& m_directory;
+    RecordModel* m_model;
+    RecordFilter* m_filter;
+    QTableView* m_table = nullptr;
+    QLabel* m_summary = nullptr;
+    QPointer<SettingsWindow> m_settings;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "RecordFields.h"
+
+#include <QAbstractTableModel>
+#include <QStringList>
+#include <QVector>
+
+/// The record as a table, one row for each element of each field.
+class RecordModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { TitleColumn, NameColumn, ValueColumn, MeaningColumn, ChangeColumn, ColumnCount };
+    enum Role { ChangedRole = Qt::UserRole };
+
+    explicit RecordModel(QObject* parent = nullptr);
+
+    /// Shows @p record and marks nothing.
+    void show(const OwnedRecord& record);
+    /// Shows @p record and marks what differs from what was shown before.
+    void showChanges(const OwnedRecord& record);
+    /// How many rows are marked.
+    int changeCount() const;
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+private:
+    struct Row {
+        QString title;
+        QString name;
+        QString value;
+        QString meaning;
+        QString change; ///< empty unless the row is marked
+    };
+    static QVector<Row> rowsOf(const OwnedRecord& record);
+    void replace(QVector<Row> rows);
+
+    QVector<Row> m_rows;
+};

@@ -1,0 +1,51 @@
+#include "SettingsWindow.h"
+
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWindow>
+
+SettingsWindow::SettingsWindow(QWidget* dialog, QWidget* parent)
+    : QScrollArea(parent)
+    , m_formSize(dialog->size())
+{
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                   | Qt::WindowCloseButtonHint);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("设置"));
+    setFrameShape(QFrame::NoFrame);
+    dialog->setMinimumSize(m_formSize);
+    setWidgetResizable(true);
+    setWidget(dialog);
+    setMaximumSize(m_formSize);
+    resize(m_formSize);
+}
+
+void SettingsWindow::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    const QRect available = screen()->availableGeometry();
+    const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+    // Before the window manager has framed the window, a title bar's usual height.
+    constexpr int usualTitle = 32;
+    const int title = qMax(usualTitle, frame.top() + frame.bottom());
+    const QSize room(available.width() - frame.left() - frame.right(), available.height() - title);
+    if (m_formSize.width() <= room.width() && m_formSize.height() <= room.height())
+        return;
+    // A scroll bar for one direction takes room from the other.
+    const int bar = verticalScrollBar()->sizeHint().width();
+    setMaximumSize(m_formSize + QSize(bar, bar));
+    resize((m_formSize + QSize(bar, bar)).boundedTo(room));
+    move(available.topLeft());
+}
+
+bool SettingsWindow::viewportEvent(QEvent* event)
+{
+    // The dialog closes its parent, which is the viewport: take the whole window along.
+    if (event->type() == QEvent::Close) {
+        event->ignore();
+        close();
+        return true;
+    }
+    return QScrollArea::viewportEvent(event);
+}

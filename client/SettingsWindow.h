@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QScrollArea>
+
+/**
+ * A window around the module's dialog, which has a fixed layout: on a screen that is too small
+ * for it at the chosen scale, the dialog scrolls. The window closes when the dialog does, and
+ * deletes itself and the dialog.
+ */
+class SettingsWindow : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// Takes ownership of @p dialog.
+    SettingsWindow(QWidget* dialog, QWidget* parent);
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QSize m_formSize;
+};

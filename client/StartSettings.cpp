@@ -1,0 +1,67 @@
+#include "StartSettings.h"
+
+#include "DataDirectory.h"
+
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QSettings>
+#include <QTranslator>
+#include <algorithm>
+
+namespace {
+
+constexpr const char* factorVariable = "QT_SCALE_FACTOR";
+
+void install(QCoreApplication* application, const QString& name, const QString& directory)
+{
+    auto* const translator = new QTranslator(application);
+    if (!translator->load(name, directory) || !QCoreApplication::installTranslator(translator))
+        delete translator;
+}
+
+} // namespace
+
+StartSettings StartSettings::read(const DataDirectory& directory)
+{
+    const QSettings file(directory.settingsFile(), QSettings::IniFormat);
+    StartSettings settings;
+    settings.scalePercent = std::clamp(file.value(QStringLiteral("UI/scale")).toInt(), 100, 300);
+    const QString language = file.value(QStringLiteral("UI/language")).toString();
+    const bool known = language == QLatin1String("zh_TW") || language == QLatin1String("en_US");
+    settings.language = known ? language : QStringLiteral("zh_CN");
+    return settings;
+}
+
+void StartSettings::installTranslations(QCoreApplication* application) const
+{
+    QLocale::setDefault(QLocale(language));
+    const QString ours = QStringLiteral(":/translations");
+    const QString toolkit = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    install(application, QStringLiteral("qtbase_") + language, toolkit);
+    install(application, QStringLiteral("qtbase_") + language, ours);
+    install(application, QStringLiteral("tradeConfig_") + language, ours);
+}
+
+InterfaceScale::InterfaceScale(int percent)
+    : m_before(qgetenv(factorVariable))
+    , m_wasSet(qEnvironmentVariableIsSet(factorVariable))
+{
+    bool ok = false;
+    const double before = m_before.toDouble(&ok);
+    const double factor = percent / 100.0 * (ok && before > 0 ? before : 1.0);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // 105 % must not become 100 %.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    qputenv(factorVariable, QByteArray::number(factor));
+}
+
+InterfaceScale::~InterfaceScale()
+{
+    if (m_wasSet)
+        qputenv(factorVariable, m_before);
+    else
+        qunsetenv(factorVariable);
+}

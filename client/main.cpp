@@ -1,0 +1,172 @@
+#include "ClientOptions.h"
+#include "DataDirectory.h"
+#include "Instance.h"
+#include "MainWindow.h"
+#include "Screenshots.h"
+#include "SettingsModule.h"
+#include "StartSettings.h"
+#include "TradeCore.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QTextCodec>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+// The context of this file's texts.
+struct Client {
+    Q_DECLARE_TR_FUNCTIONS(Client)
+};
+
+void setIdentity()
+{
+    QCoreApplication::setOrganizationDomain(QStringLiteral("kivotrade.com"));
+    QCoreApplication::setApplicationName(QStringLiteral("tradeclient"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(CLIENT_VERSION));
+}
+
+// A locale without Chinese would turn key names and paths into question marks.
+void ensureEncoding()
+{
+    const QTextCodec* const codec = QTextCodec::codecForLocale();
+    if (!codec || !codec->canEncode(QStringLiteral("买入")))
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+bool platformIsChosen() { return qEnvironmentVariableIsSet("QT_QPA_PLATFORM"); }
+
+bool platformShowsWindows()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+}
+
+// To the standard error always, in a box too when somebody can see it.
+void tell(QMessageBox::Icon icon, const QString& message)
+{
+    std::fprintf(stderr, "tradeclient: %s\n", qPrintable(message));
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || !platformShowsWindows())
+        return;
+    QMessageBox box(icon, Client::tr("交易客户端"), message);
+    box.exec();
+}
+
+int fail(const QString& message)
+{
+    tell(QMessageBox::Critical, message);
+    return EXIT_FAILURE;
+}
+
+int printRecord(const DataDirectory& directory)
+{
+    TradeCore core(directory, TradeCore::Storage::None);
+    const RecordStore::LoadReport report = core.load();
+    if (!report.isClean())
+        tell(QMessageBox::Warning, report.message());
+    const QByteArray json = RecordStore::toJson(core.record());
+    return std::fwrite(json.constData(), 1, size_t(json.size()), stdout) == size_t(json.size())
+            && std::fflush(stdout) == 0
+        ? EXIT_SUCCESS
+        : EXIT_FAILURE;
+}
+
+int writePages(const SettingsModule& module, const DataDirectory& directory, const QString& target)
+{
+    TradeCore core(directory, TradeCore::Storage::None);
+    const RecordStore::LoadReport report = core.load();
+    if (!report.isClean())
+        tell(QMessageBox::Warning, report.message());
+    const std::unique_ptr<QWidget> dialog(module.createDialog(&core));
+    if (!dialog)
+        return fail(Client::tr("设置模块 %1 无法创建设置窗口").arg(module.fileName()));
+    const ScreenshotResult result = writeScreenshots(*dialog, target);
+    for (const QString& file : result.files)
+        std::printf("%s\n", qPrintable(file));
+    return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
+}
+
+int runClient(const SettingsModule& module, const DataDirectory& directory,
+              const QStringList& arguments)
+{
+    Instance instance(directory);
+    const QString taken = instance.claim();
+    if (!taken.isEmpty())
+        return fail(taken);
+    for (const QString& trouble :
+         {directory.makeConfigDirectory()
+              ? QString()
+              : Client::tr("无法创建目录 %1").arg(directory.configDirectory()),
+          instance.writeStart(QDir::currentPath(), QCoreApplication::applicationFilePath(),
+                              arguments),
+          instance.installRestarter(QCoreApplication::applicationDirPath()
+                                    + QStringLiteral("/restart"))}) {
+        if (!trouble.isEmpty())
+            tell(QMessageBox::Warning, trouble);
+    }
+
+    TradeCore core(directory);
+    core.store().removeLeftovers();
+    const RecordStore::LoadReport report = core.load();
+    int status;
+    {
+        MainWindow window(module, core, directory);
+        window.show();
+        if (!report.isClean())
+            tell(QMessageBox::Warning, report.message());
+        status = QCoreApplication::exec();
+    }
+    const QString failure = core.storeIfChanged();
+    return failure.isEmpty() ? status : fail(failure);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    setIdentity();
+    ensureEncoding();
+
+    // The scale must be known before the interface exists, and with it the arguments, the
+    // module and the data directory: a first application object without an interface finds them.
+    ClientOptions options;
+    SettingsModule module;
+    QString moduleFailure;
+    QStringList arguments;
+    QString home;
+    {
+        const QCoreApplication early(argc, argv);
+        options = ClientOptions::parse();
+        arguments = QCoreApplication::arguments().mid(1);
+        moduleFailure = module.load(options.module);
+        if (moduleFailure.isEmpty())
+            home = module.homePath();
+        if (moduleFailure.isEmpty() && options.printRecord)
+            return printRecord(DataDirectory(home));
+    }
+
+    const bool batch = options.printRecord || !options.screenshotDirectory.isEmpty();
+    const bool hasDisplay = CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
+        || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (!platformIsChosen() && (batch || !hasDisplay)) {
+        if (!batch && moduleFailure.isEmpty())
+            return fail(Client::tr("没有可用的显示。可用 --screenshots 将设置窗口保存为图片。"));
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+
+    const DataDirectory directory(home);
+    const StartSettings settings
+        = moduleFailure.isEmpty() ? StartSettings::read(directory) : StartSettings();
+    auto scale = std::make_unique<InterfaceScale>(settings.scalePercent);
+    QApplication application(argc, argv);
+    scale.reset();
+    settings.installTranslations(&application);
+
+    if (!moduleFailure.isEmpty())
+        return fail(moduleFailure);
+    if (!options.screenshotDirectory.isEmpty())
+        return writePages(module, directory, options.screenshotDirectory);
+    return runClient(module, directory, arguments);
+}
