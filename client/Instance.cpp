@@ -1,27 +1,14 @@
 #include "Instance.h"
 
 #include "DataDirectory.h"
+#include "FileReplace.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-
-namespace {
-
-QString writeFile(const QString& name, const QByteArray& content, QFile::Permissions permissions)
-{
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()
-        || !file.setPermissions(permissions) || !file.commit())
-        return Instance::tr("无法写入 %1：%2").arg(name, file.errorString());
-    return QString();
-}
-
-} // namespace
 
 Instance::Instance(const DataDirectory& directory)
     : m_directory(directory)
@@ -62,7 +49,7 @@ QString Instance::writeStart(const QString& currentDirectory, const QString& pro
     QByteArray content;
     for (const QString& item : QStringList{currentDirectory, program} + arguments)
         content += QFile::encodeName(item) + '\0';
-    return writeFile(m_directory.startFile(), content, QFile::ReadOwner | QFile::WriteOwner);
+    return replaceFile(m_directory.startFile(), content);
 }
 
 QString Instance::installRestarter(const QString& source) const
@@ -77,5 +64,5 @@ QString Instance::installRestarter(const QString& source) const
     if (installed.open(QIODevice::ReadOnly) && installed.readAll() == content
         && (installed.permissions() & QFile::ExeOwner))
         return QString();
-    return writeFile(installed.fileName(), content, runnable);
+    return replaceFile(installed.fileName(), content, runnable);
 }

@@ -1,6 +1,7 @@
 #include "RecordStore.h"
 
 #include "DataDirectory.h"
+#include "FileReplace.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <cmath>
 
 using RecordFields::Field;
@@ -243,18 +243,15 @@ QString RecordStore::save(const OwnedRecord& record)
     for (auto it = own.constBegin(); it != own.constEnd(); ++it)
         object.insert(it.key(), it.value());
     const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Indented);
-
-    QSaveFile file(m_fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return tr("无法写入 %1：%2").arg(m_fileName, file.errorString());
-    return QString();
+    return replaceFile(m_fileName, text);
 }
 
 void RecordStore::removeLeftovers() const
 {
     const QFileInfo info(m_fileName);
-    const QRegularExpression temporary(
-        QStringLiteral("^%1\\.[A-Za-z]{6}$").arg(QRegularExpression::escape(info.fileName())));
+    // Six random letters; only a mix of capitals and small ones is surely not a user's word.
+    const QRegularExpression temporary(QStringLiteral("^%1\\.(?=.*[a-z])(?=.*[A-Z])[A-Za-z]{6}$")
+                                           .arg(QRegularExpression::escape(info.fileName())));
     const QDir directory = info.absoluteDir();
     for (const QString& name : directory.entryList(QDir::Files | QDir::Hidden)) {
         if (temporary.match(name).hasMatch())
