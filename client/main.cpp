@@ -36,8 +36,6 @@ void ensureEncoding()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-bool platformIsChosen() { return qEnvironmentVariableIsSet("QT_QPA_PLATFORM"); }
-
 bool platformShowsWindows()
 {
     const QString platform = QGuiApplication::platformName();
@@ -141,19 +139,24 @@ int main(int argc, char** argv)
         options = ClientOptions::parse();
         arguments = QCoreApplication::arguments().mid(1);
         moduleFailure = module.load(options.module);
-        if (moduleFailure.isEmpty())
+        if (moduleFailure.isEmpty()) {
             home = module.homePath();
-        if (moduleFailure.isEmpty() && options.printRecord)
-            return printRecord(DataDirectory(home));
+            if (options.printRecord)
+                return printRecord(DataDirectory(home));
+        }
     }
 
-    const bool batch = options.printRecord || !options.screenshotDirectory.isEmpty();
+    const bool platformIsChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool hasDisplay = CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
         || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!platformIsChosen() && (batch || !hasDisplay)) {
-        if (!batch && moduleFailure.isEmpty())
+    const bool wantsPictures = !options.screenshotDirectory.isEmpty();
+    if (!moduleFailure.isEmpty() && (options.printRecord || wantsPictures || !hasDisplay))
+        return fail(moduleFailure);
+    if (!platformIsChosen) {
+        if (wantsPictures)
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        else if (!hasDisplay)
             return fail(Client::tr("没有可用的显示。可用 --screenshots 将设置窗口保存为图片。"));
-        qputenv("QT_QPA_PLATFORM", "offscreen");
     }
 
     const DataDirectory directory(home);
@@ -166,7 +169,7 @@ int main(int argc, char** argv)
 
     if (!moduleFailure.isEmpty())
         return fail(moduleFailure);
-    if (!options.screenshotDirectory.isEmpty())
+    if (wantsPictures)
         return writePages(module, directory, options.screenshotDirectory);
     return runClient(module, directory, arguments);
 }

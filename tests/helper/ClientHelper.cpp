@@ -1,0 +1,40 @@
+// A process for tests to kill.
+//
+//   clientHelper hold HOME        claims the data directory, says "held", then waits
+//   clientHelper save HOME FIRST  stores the records FIRST, FIRST + 1, ... without end, and
+//                                 says each number when its record is stored
+
+#include "NumberedRecord.h"
+
+#include "client/DataDirectory.h"
+#include "client/Instance.h"
+#include "client/RecordStore.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+#include <unistd.h>
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 3)
+        return 2;
+    const DataDirectory directory(arguments.at(2));
+    if (arguments.at(1) == QLatin1String("hold")) {
+        Instance instance(directory);
+        const QString taken = instance.claim();
+        std::printf("%s\n", taken.isEmpty() ? "held" : qPrintable(taken));
+        std::fflush(stdout);
+        while (taken.isEmpty())
+            pause();
+        return 1;
+    }
+    RecordStore store(directory);
+    for (int number = arguments.value(3).toInt();; ++number) {
+        if (!store.save(numberedRecord(number)).isEmpty())
+            return 1;
+        std::printf("%d\n", number);
+        std::fflush(stdout);
+    }
+}

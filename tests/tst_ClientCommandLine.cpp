@@ -1,0 +1,323 @@
+#include "support/TestMain.h"
+
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <memory>
+
+namespace {
+
+struct Outcome {
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+} // namespace
+
+/// The program as a user runs it, without a display.
+class tst_ClientCommandLine : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { m_home = std::make_unique<QTemporaryDir>(); }
+
+    void help();
+    void version();
+    void refusesWhatItDoesNotKnow_data();
+    void refusesWhatItDoesNotKnow();
+    void missingModule();
+    void missingModuleBesideTheProgram();
+    void moduleThatIsNoLibrary();
+    void moduleWithoutTheSymbol();
+    void withoutADisplay();
+
+    void printsTheDefaults();
+    void printsTheStoredRecord();
+    void printRecordTellsOfAWrongValue();
+    void screenshots_data();
+    void screenshots();
+    void screenshotsIntoAFile();
+
+    void secondInstance();
+    void comesBackAfterAKill();
+
+private:
+    QProcessEnvironment environment(const QString& platform = {}) const;
+    Outcome run(const QStringList& arguments,
+                const QString& program = QStringLiteral(CLIENT_PROGRAM),
+                const QString& platform = {}) const;
+    std::unique_ptr<QProcess> startClient() const;
+    QString data(const QString& name) const
+    {
+        return m_home->filePath(QStringLiteral(".com.kivotrade.tradeclient/") + name);
+    }
+    void write(const QString& name, const QByteArray& content) const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+QProcessEnvironment tst_ClientCommandLine::environment(const QString& platform) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), m_home->path());
+    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1String(name));
+    if (!platform.isEmpty())
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+    return environment;
+}
+
+Outcome tst_ClientCommandLine::run(const QStringList& arguments, const QString& program,
+                                   const QString& platform) const
+{
+    QProcess process;
+    process.setProcessEnvironment(environment(platform));
+    process.start(program, arguments);
+    Outcome outcome;
+    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
+        outcome.status = process.exitCode();
+    outcome.output = process.readAllStandardOutput();
+    outcome.errors = process.readAllStandardError();
+    return outcome;
+}
+
+void tst_ClientCommandLine::write(const QString& name, const QByteArray& content) const
+{
+    QVERIFY(QDir().mkpath(QFileInfo(data(name)).path()));
+    QFile file(data(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+void tst_ClientCommandLine::help()
+{
+    const Outcome outcome = run({QStringLiteral("--help")});
+    QCOMPARE(outcome.status, 0);
+    for (const char* const option : {"--help", "--version", "--screenshots", "--print-record"})
+        QVERIFY2(outcome.output.contains(option), option);
+    QVERIFY2(QDir(m_home->path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             "asking for help leaves nothing behind");
+}
+
+void tst_ClientCommandLine::version()
+{
+    const Outcome outcome = run({QStringLiteral("--version")});
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, QByteArray("tradeclient " CLIENT_VERSION "\n"));
+}
+
+void tst_ClientCommandLine::refusesWhatItDoesNotKnow_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("option") << QStringList{QStringLiteral("--no-such-option")};
+    QTest::newRow("argument") << QStringList{QStringLiteral("something")};
+    QTest::newRow("no directory") << QStringList{QStringLiteral("--screenshots")};
+    QTest::newRow("empty directory") << QStringList{QStringLiteral("--screenshots=")};
+}
+
+void tst_ClientCommandLine::refusesWhatItDoesNotKnow()
+{
+    QFETCH(QStringList, arguments);
+    const Outcome outcome = run(arguments);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY(!outcome.errors.isEmpty());
+    QVERIFY(outcome.output.isEmpty());
+}
+
+void tst_ClientCommandLine::missingModule()
+{
+    const QString file = m_home->filePath(QStringLiteral("libnothing.so"));
+    for (const QString& action : {QString(), QStringLiteral("--print-record")}) {
+        QStringList arguments{QStringLiteral("--module"), file};
+        if (!action.isEmpty())
+            arguments += action;
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(file.toUtf8()), outcome.errors);
+        QVERIFY(outcome.errors.contains("文件不存在"));
+        QVERIFY(outcome.output.isEmpty());
+    }
+}
+
+void tst_ClientCommandLine::missingModuleBesideTheProgram()
+{
+    const QString program = m_home->filePath(QStringLiteral("bin/tradeclient"));
+    QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("bin"))));
+    QVERIFY(QFile::copy(QStringLiteral(CLIENT_PROGRAM), program));
+    const Outcome outcome = run({}, program, QStringLiteral("offscreen"));
+    QCOMPARE(outcome.status, 1);
+    const QString expected = m_home->filePath(QStringLiteral("lib/libtradeConfig.so"));
+    QVERIFY2(outcome.errors.contains(expected.toUtf8()), outcome.errors);
+}
+
+void tst_ClientCommandLine::moduleThatIsNoLibrary()
+{
+    const QString file = m_home->filePath(QStringLiteral("libtext.so"));
+    QFile text(file);
+    QVERIFY(text.open(QIODevice::WriteOnly));
+    text.write("no library");
+    text.close();
+    const Outcome outcome = run({QStringLiteral("--module"), file});
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains(file.toUtf8() + "：Cannot load library"), outcome.errors);
+}
+
+void tst_ClientCommandLine::moduleWithoutTheSymbol()
+{
+    const Outcome outcome
+        = run({QStringLiteral("--module"), QStringLiteral(LIBRARY_WITHOUT_FACTORY)});
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains(LIBRARY_WITHOUT_FACTORY), outcome.errors);
+    QVERIFY(outcome.errors.contains("CreateModuleWidget"));
+}
+
+void tst_ClientCommandLine::withoutADisplay()
+{
+    const Outcome outcome = run({});
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains("--screenshots"), outcome.errors);
+}
+
+void tst_ClientCommandLine::printsTheDefaults()
+{
+    const Outcome outcome = run({QStringLiteral("--print-record")});
+    QCOMPARE(outcome.status, 0);
+    const QJsonObject record = QJsonDocument::fromJson(outcome.output).object();
+    QCOMPARE(record.size(), 41);
+    QCOMPARE(record.value(QStringLiteral("uiPageMode")).toInt(), 2);
+    QCOMPARE(record.value(QStringLiteral("lockMinutes")).toInt(), 30);
+    QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config"))), "printing stores nothing");
+}
+
+void tst_ClientCommandLine::printsTheStoredRecord()
+{
+    write(QStringLiteral("config/trade_parameters.json"),
+          R"({"lockMinutes": 77, "defaultPage": "zjgp", "foreign": true})");
+    const Outcome outcome = run({QStringLiteral("--print-record")});
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.errors, QByteArray());
+    const QJsonObject record = QJsonDocument::fromJson(outcome.output).object();
+    QCOMPARE(record.value(QStringLiteral("lockMinutes")).toInt(), 77);
+    QCOMPARE(record.value(QStringLiteral("defaultPage")).toString(), QStringLiteral("zjgp"));
+    QCOMPARE(record.value(QStringLiteral("splitMinQty")).toInt(), 100);
+}
+
+void tst_ClientCommandLine::printRecordTellsOfAWrongValue()
+{
+    write(QStringLiteral("config/trade_parameters.json"), R"({"lockMinutes": -5})");
+    const Outcome outcome = run({QStringLiteral("--print-record")});
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(outcome.errors.contains("lockMinutes"), outcome.errors);
+    QVERIFY(outcome.errors.contains("-5"));
+    const QStringList files = QDir(data(QStringLiteral("config"))).entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QVERIFY(outcome.errors.contains(data(QStringLiteral("config/") + files.first()).toUtf8()));
+    QCOMPARE(QJsonDocument::fromJson(outcome.output)
+                 .object()
+                 .value(QStringLiteral("lockMinutes"))
+                 .toInt(),
+             30);
+}
+
+void tst_ClientCommandLine::screenshots_data()
+{
+    QTest::addColumn<QByteArray>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("none") << QByteArray() << QSize(659, 641);
+    QTest::newRow("100") << QByteArray("100") << QSize(659, 641);
+    QTest::newRow("150") << QByteArray("150") << QSize(989, 962);
+    QTest::newRow("200") << QByteArray("200") << QSize(1318, 1282);
+    QTest::newRow("300") << QByteArray("300") << QSize(1977, 1923);
+    QTest::newRow("too large") << QByteArray("1000") << QSize(1977, 1923);
+    QTest::newRow("too small") << QByteArray("50") << QSize(659, 641);
+    QTest::newRow("no number") << QByteArray("large") << QSize(659, 641);
+}
+
+void tst_ClientCommandLine::screenshots()
+{
+    QFETCH(QByteArray, scale);
+    QFETCH(QSize, size);
+    if (!scale.isEmpty())
+        write(QStringLiteral("config/system_settings.ini"), "[UI]\nscale=" + scale + "\n");
+    const QString target = m_home->filePath(QStringLiteral("new/pictures"));
+    const Outcome outcome = run({QStringLiteral("--screenshots"), target});
+    QVERIFY2(outcome.status == 0, outcome.errors);
+    const QList<QByteArray> files = outcome.output.trimmed().split('\n');
+    QCOMPARE(files.size(), 10);
+    QSet<QByteArray> different;
+    for (const QByteArray& file : files) {
+        const QString name = QString::fromUtf8(file);
+        QCOMPARE(QFileInfo(name).path(), target);
+        const QImage image(name);
+        QVERIFY2(!image.isNull(), file);
+        // A fraction of a pixel may be rounded either way.
+        QVERIFY2(qAbs(image.width() - size.width()) <= 1, file);
+        QVERIFY2(qAbs(image.height() - size.height()) <= 1, file);
+        QFile content(name);
+        QVERIFY(content.open(QIODevice::ReadOnly));
+        different.insert(content.readAll());
+    }
+    QCOMPARE(different.size(), 10);
+    QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
+             "taking pictures stores nothing");
+}
+
+void tst_ClientCommandLine::screenshotsIntoAFile()
+{
+    const QString target = m_home->filePath(QStringLiteral("file"));
+    QFile file(target);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const Outcome outcome = run({QStringLiteral("--screenshots"), target});
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains(target.toUtf8()), outcome.errors);
+}
+
+std::unique_ptr<QProcess> tst_ClientCommandLine::startClient() const
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProcessEnvironment(environment(QStringLiteral("offscreen")));
+    process->setWorkingDirectory(m_home->path());
+    process->start(QStringLiteral(CLIENT_PROGRAM), {});
+    return process;
+}
+
+void tst_ClientCommandLine::secondInstance()
+{
+    const auto first = startClient();
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(data(QStringLiteral("restart"))), 20000);
+    QVERIFY(QFileInfo(data(QStringLiteral("restart"))).isExecutable());
+    QVERIFY(QFileInfo(data(QStringLiteral("config"))).isDir());
+    QFile start(data(QStringLiteral("run/client.start")));
+    QVERIFY(start.open(QIODevice::ReadOnly));
+    QCOMPARE(start.readAll(), m_home->path().toUtf8() + '\0' + CLIENT_PROGRAM + '\0');
+
+    const Outcome second = run({}, QStringLiteral(CLIENT_PROGRAM), QStringLiteral("offscreen"));
+    QCOMPARE(second.status, 1);
+    QVERIFY2(second.errors.contains("已在运行"), second.errors);
+    QCOMPARE(first->state(), QProcess::Running);
+    // Reading is no second client.
+    QCOMPARE(run({QStringLiteral("--print-record")}).status, 0);
+    first->kill();
+    QVERIFY(first->waitForFinished(20000));
+}
+
+void tst_ClientCommandLine::comesBackAfterAKill()
+{
+    const auto first = startClient();
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(data(QStringLiteral("restart"))), 20000);
+    first->kill();
+    QVERIFY(first->waitForFinished(20000));
+    QVERIFY2(QFileInfo::exists(data(QStringLiteral("run/client.lock"))), "left behind");
+
+    QVERIFY(QFile::remove(data(QStringLiteral("restart"))));
+    const auto next = startClient();
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(data(QStringLiteral("restart"))), 20000);
+    QCOMPARE(next->state(), QProcess::Running);
+    next->terminate();
+    QVERIFY(next->waitForFinished(20000));
+}
+
+TRADECONFIG_TEST_MAIN(tst_ClientCommandLine)
+#include "tst_ClientCommandLine.moc"
