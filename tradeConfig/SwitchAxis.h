@@ -1,7 +1,5 @@
 #pragma once
 
-#include "tradeConfig/SwitchEx.h"
-
 #include <QRectF>
 #include <QSize>
 
@@ -15,13 +13,6 @@ public:
 
     double extent(const QRectF& rect) const { return m_horizontal ? rect.width() : rect.height(); }
     int extent(QSize size) const { return m_horizontal ? size.width() : size.height(); }
-    double extent(const QVector<SwitchItem*>& list) const
-    {
-        double sum = 0;
-        for (const SwitchItem* item : list)
-            sum += extent(item->rect);
-        return sum;
-    }
     int breadth(QSize size) const { return m_horizontal ? size.height() : size.width(); }
     double nearEdge(const QRectF& rect) const { return m_horizontal ? rect.left() : rect.top(); }
     double farEdge(const QRectF& rect) const { return m_horizontal ? rect.right() : rect.bottom(); }

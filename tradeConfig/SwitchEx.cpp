@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <algorithm>
+#include <cmath>
+#include <tuple>
 
 const QString SWITCH_ARROW_LEFT = QStringLiteral("◀");
 const QString SWITCH_ARROW_RIGHT = QStringLiteral("▶");
@@ -21,6 +23,7 @@ namespace {
 constexpr double moreLength = 38; // both scroll buttons together, along the bar
 constexpr double textExtraWidth = 30; // of a text item in a horizontal bar
 constexpr double textExtraHeight = 10; // of a text item in a vertical bar
+constexpr double tolerance = 1e-6; // lengths closer than this may be equal but for rounding
 
 } // namespace
 
@@ -114,7 +117,8 @@ SwitchItem* CSwitchEx::Append(std::unique_ptr<SwitchItem> item, bool atEnd)
 {
     SwitchItem* const added = item.release();
     (atEnd ? endItems : items).append(added);
-    ReLayout();
+    if (!LayOutAppended(atEnd))
+        ReLayout();
     update();
     return added;
 }
@@ -181,6 +185,7 @@ void CSwitchEx::ClearAll()
     curSel = nullptr;
     moreShown = false;
     moreRect = QRectF();
+    laidOut.reset();
     update();
 }
 
@@ -209,13 +214,21 @@ double CSwitchEx::GetMinimumSize() const
     double longest = 0;
     for (const SwitchItem* item : items)
         longest = std::max(longest, axis.extent(item->rect));
-    return longest + moreLength + axis.extent(endItems);
+    double ends = 0;
+    for (const SwitchItem* item : endItems)
+        ends += axis.extent(item->rect);
+    return longest + moreLength + ends;
 }
 
 double CSwitchEx::GetMaximumSize() const
 {
     const SwitchAxis axis(orientation);
-    return axis.extent(items) + axis.extent(endItems);
+    double sum = 0;
+    for (const auto* list : {&items, &endItems}) {
+        for (const SwitchItem* item : *list)
+            sum += axis.extent(item->rect);
+    }
+    return sum;
 }
 
 void CSwitchEx::ReCalcItemSize()
@@ -232,7 +245,8 @@ QSizeF CSwitchEx::CalcItemSize(SwitchItem* item)
     using CorvelSkin::CSkin;
     QSizeF size;
     if (item->isImage) {
-        size = CSkin::Instance()->GetBitmapSize(item->image);
+        // An unknown image may come back as an invalid size.
+        size = CSkin::Instance()->GetBitmapSize(item->image).expandedTo(QSizeF(0, 0));
     } else {
         // The font is this one in every mode, whatever font the mode paints with.
         size = CSkin::Instance()->textSize(this, SkinKeys::Font::Switch(), item->label);
@@ -256,16 +270,96 @@ void CSwitchEx::ReLayout()
 {
     if (items.isEmpty() && endItems.isEmpty())
         return;
-    if (mode == ModeSwitch)
+    if (mode == ModeSwitch) {
         ReLayoutSwitch();
-    else if (SwitchAxis(orientation).extent(size()) >= GetMaximumSize())
+        return;
+    }
+    const SwitchAxis axis(orientation);
+    laidOutLength = GetMaximumSize();
+    if (axis.extent(size()) >= laidOutLength)
         ReLayoutShowAll();
     else
         ReLayoutMoreButton();
+
+    const auto growsForward
+        = [&axis](const SwitchItem* item) { return axis.extent(item->rect) >= 0; };
+    if (std::all_of(items.cbegin(), items.cend(), growsForward)
+        && std::all_of(endItems.cbegin(), endItems.cend(), growsForward))
+        laidOut = CurrentState();
+    else
+        laidOut.reset();
+}
+
+bool CSwitchEx::LayoutState::operator==(const LayoutState& other) const
+{
+    const auto all = [](const LayoutState& state) {
+        return std::tie(state.size, state.orientation, state.mode, state.mainCount, state.endCount,
+                        state.firstIndex, state.visibleCount, state.moreShown, state.moreRect);
+    };
+    return all(*this) == all(other);
+}
+
+CSwitchEx::LayoutState CSwitchEx::CurrentState() const
+{
+    return {size(),     orientation,  mode,      items.size(), endItems.size(),
+            firstIndex, visibleCount, moreShown, moreRect};
+}
+
+// Places the item appended last without walking all others, so that filling a bar takes time in
+// proportion to its items. False, with nothing that ReLayout() would not put right, where the
+// others may move or rounding could decide.
+bool CSwitchEx::LayOutAppended(bool atEnd)
+{
+    LayoutState before = CurrentState();
+    --(atEnd ? before.endCount : before.mainCount);
+    if (!laidOut || !(*laidOut == before))
+        return false;
+
+    const SwitchAxis axis(orientation);
+    QRectF& added = (atEnd ? endItems : items).last()->rect;
+    const double length = axis.extent(size());
+    const double total = laidOutLength + axis.extent(added);
+    const auto close = [](double a, double b) { return std::abs(a - b) < tolerance; };
+    const bool fits = total < length;
+    if (axis.extent(added) < tolerance || close(total, length) || fits == moreShown)
+        return false;
+
+    if (atEnd) {
+        axis.moveFarEdge(added,
+                         before.endCount > 0 ? axis.nearEdge(endItems[before.endCount - 1]->rect)
+                                             : length);
+        axis.setBreadth(added, axis.breadth(size()));
+        if (!fits) {
+            const double available = axis.nearEdge(added) - moreLength;
+            for (; visibleCount > 0; --visibleCount) {
+                const double end = axis.farEdge(items[firstIndex + visibleCount - 1]->rect);
+                if (close(end, available))
+                    return false;
+                if (end < available)
+                    break;
+            }
+            moreRect = axis.rectangle(available, moreLength, axis.breadth(size()));
+        }
+    } else if (firstIndex + visibleCount == before.mainCount) {
+        const double start = visibleCount > 0 ? axis.farEdge(items[before.mainCount - 1]->rect) : 0;
+        const double end = start + axis.extent(added);
+        const double available = axis.nearEdge(moreRect);
+        if (!fits && close(end, available))
+            return false;
+        if (fits || end < available) {
+            axis.moveNearEdge(added, start);
+            axis.setBreadth(added, axis.breadth(size()));
+            ++visibleCount;
+        }
+    }
+    laidOut = CurrentState();
+    laidOutLength = total;
+    return true;
 }
 
 void CSwitchEx::ReLayoutSwitch()
 {
+    laidOut.reset();
     // visibleCount stays: how many main items are painted is what the last other layout counted.
     firstIndex = 0;
     moreShown = false;

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QMenu;
 struct SwitchLook;
@@ -160,9 +161,30 @@ protected:
     bool backgroundEnable = true;
 
 private:
+    // Everything that a layout depends on or sets, but the items' cells.
+    struct LayoutState {
+        QSize size;
+        Qt::Orientation orientation;
+        SwitchMode mode;
+        int mainCount;
+        int endCount;
+        int firstIndex;
+        int visibleCount;
+        bool moreShown;
+        QRectF moreRect;
+
+        bool operator==(const LayoutState& other) const;
+    };
+
     SwitchItem* Append(std::unique_ptr<SwitchItem> item, bool atEnd);
+    bool LayOutAppended(bool atEnd);
+    LayoutState CurrentState() const;
     SwitchItem* FindLabel(const QString& label) const;
     bool Owns(SwitchItem* item) const;
     double PackEndItems();
     void DrawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
+
+    // What the last layout left, if one more item may be placed without walking all others.
+    std::optional<LayoutState> laidOut;
+    double laidOutLength = 0; // of all items together
 };
