@@ -14,7 +14,6 @@
 #include <fstream>
 #include <limits>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 #include <unistd.h>
@@ -79,10 +78,10 @@ template <std::size_t Size> void copyTerminated(char (&buffer)[Size], const std:
 }
 
 /// Skips white space, takes a sign and stays within the range of an int, as NSString's intValue.
-int leadingInt(std::string_view text)
+int leadingInt(const std::string& text)
 {
     using Limits = std::numeric_limits<int>;
-    const long long value = std::strtoll(std::string(text).c_str(), nullptr, 10);
+    const long long value = std::strtoll(text.c_str(), nullptr, 10);
     return static_cast<int>(std::clamp<long long>(value, Limits::min(), Limits::max()));
 }
 

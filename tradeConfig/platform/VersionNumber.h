@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+#include <string>
 
 namespace HostPlatform {
 
@@ -12,16 +12,16 @@ namespace HostPlatform {
  * @p intValue turns a piece of the text into an int by its leading digits.
  */
 template <typename IntValue>
-std::int32_t versionNumber(std::string_view version, const IntValue& intValue)
+std::int32_t versionNumber(const std::string& version, const IntValue& intValue)
 {
     const auto majorEnd = version.find('.');
-    if (majorEnd == std::string_view::npos)
+    if (majorEnd == std::string::npos)
         return 0;
     std::int64_t number = std::int64_t{intValue(version.substr(0, majorEnd))} * 1000000;
 
-    const std::string_view rest = version.substr(majorEnd + 1);
+    const std::string rest = version.substr(majorEnd + 1);
     const auto minorEnd = rest.find('.');
-    if (minorEnd != std::string_view::npos) {
+    if (minorEnd != std::string::npos) {
         number += std::int64_t{intValue(rest.substr(0, minorEnd))} * 10000;
         number += intValue(rest.substr(minorEnd + 1));
     }
