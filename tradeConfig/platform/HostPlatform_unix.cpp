@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -72,11 +71,6 @@ std::string firstLine(const std::string& file)
     return line;
 }
 
-template <std::size_t Size> void copyTerminated(char (&buffer)[Size], const std::string& text)
-{
-    buffer[text.copy(buffer, Size - 1)] = '\0';
-}
-
 /// Skips white space, takes a sign and stays within the range of an int, as NSString's intValue.
 int leadingInt(const std::string& text)
 {
@@ -134,7 +128,8 @@ int GetMainExecutableVersionNum()
 const char* GetDiskId()
 {
     if (!init_disk_id) {
-        copyTerminated(disk_id_str, HostPlatform::machineIdentifier({}, "product_serial"));
+        HostPlatform::copyTerminated(disk_id_str,
+                                     HostPlatform::machineIdentifier({}, "product_serial"));
         init_disk_id = true;
     }
     return disk_id_str;
@@ -143,7 +138,8 @@ const char* GetDiskId()
 const char* GetSystemUuid()
 {
     if (!init_system_uuid) {
-        copyTerminated(system_uuid_str, HostPlatform::machineIdentifier({}, "product_uuid"));
+        HostPlatform::copyTerminated(system_uuid_str,
+                                     HostPlatform::machineIdentifier({}, "product_uuid"));
         init_system_uuid = true;
     }
     return system_uuid_str;
