@@ -19,3 +19,7 @@ void prepareEnvironment(const QString& home)
 }
 
 } // namespace TestSupport
+
+// The offscreen platform plugin leaves its screen behind when the application ends.
+extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() { return "leak:libqoffscreen"; }
