@@ -26,6 +26,7 @@ private slots:
     void titleFollowsTheWindow();
     void titleMayBeAbsent();
     void titleIsShownAsItIs();
+    void titleIsNotCut();
     void widgetsAndItemsAreAppended();
     void textsAreTranslated();
     void minimizes();
@@ -296,6 +297,7 @@ void tst_CaptionBar::titleIsShownAsItIs()
     Framed framed;
     QLabel plain(QString(), &framed.window);
     plain.setTextFormat(Qt::PlainText);
+    plain.setFont(framed.bar->titleLabel->font());
     for (const QString& title :
          {QStringLiteral("<b>a</b>"), QStringLiteral("a & b"), QStringLiteral("价格 < 5")}) {
         framed.window.setWindowTitle(title);
@@ -303,6 +305,39 @@ void tst_CaptionBar::titleIsShownAsItIs()
         QCOMPARE(framed.bar->titleLabel->text(), title);
         QCOMPARE(framed.bar->titleLabel->sizeHint().width(), plain.sizeHint().width());
     }
+}
+
+void tst_CaptionBar::titleIsNotCut()
+{
+    // As much ink in its fixed height as with room to spare, whatever the application's font.
+    const auto ink = [](QWidget& widget) {
+        const QImage image = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        qint64 sum = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                sum += qAbs(qGray(image.pixel(x, y)) - qGray(image.pixel(0, 0)));
+        }
+        return sum;
+    };
+    const QFont usual = QApplication::font();
+    for (const int points : {9, 12, 18}) {
+        QFont font = usual;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        QWidget window;
+        window.setWindowTitle(QStringLiteral("交易设置 Ägjpqy"));
+        CCaptionBar bar(&window);
+        bar.resize(400, 30);
+        bar.grab();
+        QLabel roomy(window.windowTitle());
+        roomy.setFont(bar.titleLabel->font());
+        roomy.setAlignment(Qt::AlignVCenter);
+        roomy.resize(bar.titleLabel->width(), 40);
+        QCOMPARE(bar.titleLabel->height(), 14);
+        QVERIFY(ink(roomy) > 0);
+        QCOMPARE(ink(*bar.titleLabel), ink(roomy));
+    }
+    QApplication::setFont(usual);
 }
 
 void tst_CaptionBar::widgetsAndItemsAreAppended()

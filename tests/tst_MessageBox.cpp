@@ -9,6 +9,7 @@
 #include <QAbstractEventDispatcher>
 #include <QLabel>
 #include <QPixmap>
+#include <QRandomGenerator>
 #include <QStyle>
 #include <QTimerEvent>
 #include <QTranslator>
@@ -56,6 +57,8 @@ private slots:
     void longWordIsBroken();
     void nothingIsCut_data();
     void nothingIsCut();
+    void nothingIsCutInAnyText();
+    void iconStandsAtTheFirstLine();
     void buttonsKeepInsideTheBox();
 };
 
@@ -773,6 +776,44 @@ void tst_MessageBox::nothingIsCut()
         if (buttons == 0x400)
             QCOMPARE(box.size(), computed);
     }
+}
+
+void tst_MessageBox::nothingIsCutInAnyText()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    const QString letters = QStringLiteral("委托数量价格，。（）abcdefgWil0123456789-/.");
+    for (int round = 0; round < 200; ++round) {
+        QString text;
+        const int words = random.bounded(1, 60);
+        for (int word = 0; word < words; ++word) {
+            const int length = random.bounded(20) == 0 ? random.bounded(300) : random.bounded(12);
+            for (int index = 0; index < length; ++index)
+                text += letters.at(random.bounded(letters.size()));
+            text += QLatin1Char(random.bounded(10) == 0 ? '\n' : ' ');
+        }
+        const auto iconKind = random.bounded(2) == 0 ? QMessageBox::NoIcon : QMessageBox::Warning;
+        Box box(QMessageBox::Ok | QMessageBox::Cancel, -1, iconKind, text);
+        const QSize computed = box.size();
+        box.show();
+        QVERIFY2(box.msg->height() >= box.msg->heightForWidth(box.msg->width()), qPrintable(text));
+        QVERIFY2(box.size() == computed.expandedTo(box.size()), qPrintable(text));
+        QVERIFY2(box.width() < 1300, qPrintable(text));
+    }
+}
+
+void tst_MessageBox::iconStandsAtTheFirstLine()
+{
+    Box twenty(QMessageBox::Ok, -1, QMessageBox::Warning, lines(20));
+    twenty.show();
+    QCOMPARE(twenty.icon->y(), twenty.msg->y());
+    QVERIFY(twenty.icon->alignment().testFlag(Qt::AlignTop));
+    // A single line stands at the middle of the icon.
+    Box one(QMessageBox::Ok, -1, QMessageBox::Warning);
+    one.show();
+    QCOMPARE(one.icon->geometry().center().y(), one.msg->geometry().center().y());
+    QCOMPARE(one.icon->height(), one.icon->pixmap(Qt::ReturnByValue).height());
 }
 
 void tst_MessageBox::buttonsKeepInsideTheBox()

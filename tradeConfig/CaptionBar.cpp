@@ -34,6 +34,14 @@ void describe(CImageButton* button, const QString& text)
     button->setAccessibleName(text);
 }
 
+// @p font, made smaller if its lines are higher than @p height: they would be cut.
+QFont fittingFont(QFont font, int height)
+{
+    while (QFontMetrics(font).height() > height && QFontInfo(font).pixelSize() > 1)
+        font.setPixelSize(QFontInfo(font).pixelSize() - 1);
+    return font;
+}
+
 } // namespace
 
 CCaptionBar::CCaptionBar(QWidget* parent)
@@ -86,6 +94,7 @@ void CCaptionBar::addTitle(QHBoxLayout* row)
 {
     titleLabel = new QLabel(window()->windowTitle(), this);
     titleLabel->setTextFormat(Qt::PlainText);
+    titleLabel->setFont(fittingFont(titleLabel->font(), TitleHeight));
     titleLabel->setFixedHeight(TitleHeight);
     titleLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     titleLabel->setAlignment(Qt::AlignVCenter);

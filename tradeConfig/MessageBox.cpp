@@ -72,7 +72,8 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     setupUi(this);
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     caption->setFixedHeight(CaptionHeight);
-    verticalLayout->setAlignment(layout1, Qt::AlignHCenter);
+    // As high as its content: the icon stands at the first line of a long text.
+    verticalLayout->setAlignment(layout1, Qt::AlignVCenter);
     verticalLayout->setAlignment(layout2, Qt::AlignHCenter);
     QPushButton* const inOrder[] = {btn1, btn2, btn3, btn4, btn5, btn6};
     std::copy(std::begin(inOrder), std::end(inOrder), btns);
