@@ -52,6 +52,29 @@ bool isGlobalHotkey(const QString& text)
         [&text](const GlobalHotkey& hotkey) { return text == QLatin1String(hotkey.key); });
 }
 
+/**
+ * A column title in the colours of its table's palette.
+ *
+ * The header's own palette does not serve: its translucent sheet leaves the buttons' colour empty
+ * there, which styles paint black, and the header is disabled, which greys its text.
+ */
+class HeaderItem : public QTableWidgetItem {
+public:
+    using QTableWidgetItem::QTableWidgetItem;
+
+    QVariant data(int role) const override
+    {
+        switch (role) {
+        case Qt::BackgroundRole:
+            return tableWidget()->palette().brush(QPalette::Active, QPalette::Button);
+        case Qt::ForegroundRole:
+            return tableWidget()->palette().brush(QPalette::Active, QPalette::ButtonText);
+        default:
+            return QTableWidgetItem::data(role);
+        }
+    }
+};
+
 // The header's sheet comes before columns and rows, and each editor's sheet after it stands in
 // its cell: the other way round every later change would be styled once more.
 void setUp(QTableWidget& table, int rows)
@@ -64,18 +87,15 @@ void setUp(QTableWidget& table, int rows)
     header.setStyleSheet(QStringLiteral("background-color:rgba(235,235,235,0.28);font:18px;"
                                         "QHeaderView::section{font:18px '宋体'; "
                                         "padding-left:2px; }"));
-    // The sheet is translucent; without a ground of its own the header shows unpainted memory.
-    header.viewport()->setAutoFillBackground(false);
     header.setFixedHeight(37);
     table.verticalHeader()->setVisible(false);
     table.verticalHeader()->setDefaultSectionSize(37);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
 
     table.setColumnCount(ColumnCount);
-    QStringList labels;
-    for (const char* const text : headers)
-        labels << CTradeConfigWidget::tr(text);
-    table.setHorizontalHeaderLabels(labels);
+    for (int column = 0; column < ColumnCount; ++column)
+        table.setHorizontalHeaderItem(column,
+                                      new HeaderItem(CTradeConfigWidget::tr(headers[column])));
     table.setRowCount(rows);
 }
 

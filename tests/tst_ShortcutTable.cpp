@@ -1,0 +1,720 @@
+#include "support/FakeTrade.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+#include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/ShortcutTable.h"
+#include "tradeConfig/TableLineEdit.h"
+
+#include <QHeaderView>
+#include <QStyleFactory>
+
+#include <memory>
+
+namespace {
+
+const QString red = QStringLiteral("color:red");
+const QString green = QStringLiteral("color:green");
+const QString normal = QStringLiteral("正常");
+
+const QStringList functions
+    = {QStringLiteral("买入股票"),     QStringLiteral("卖出股票"), QStringLiteral("撤单"),
+       QStringLiteral("查询"),         QStringLiteral("持仓"),     QStringLiteral("成交"),
+       QStringLiteral("委托"),         QStringLiteral("全撤"),     QStringLiteral("撤买"),
+       QStringLiteral("撤卖"),         QStringLiteral("撤最后"),   QStringLiteral("批量下单-买入"),
+       QStringLiteral("批量下单-卖出")};
+
+// The keys of the record by table row, as FakeTrade::setDistinctShortcuts spreads them.
+const QString lettersByRow = QStringLiteral("ABFGCDEHIJKLM");
+
+struct Dialog {
+    Dialog()
+    {
+        trade.setDistinctShortcuts();
+        widget = std::make_unique<CTradeConfigWidget>(&trade);
+    }
+
+    QTableWidget& table(const QString& name) const
+    {
+        return *widget->findChild<QTableWidget*>(name);
+    }
+
+    CTradeConfigWidget* operator->() const { return widget.get(); }
+
+    FakeTrade trade;
+    std::unique_ptr<CTradeConfigWidget> widget;
+};
+
+/// One of the two tables that can be edited, and what the dialog keeps for it.
+struct Side {
+    explicit Side(bool isCredit)
+        : credit(isCredit)
+        , table(dialog.table(isCredit ? QStringLiteral("tableWidget_credit")
+                                      : QStringLiteral("tableWidget_shortcut")))
+        , texts(isCredit ? dialog->creditShortcutTexts : dialog->stockShortcutTexts)
+        , key(isCredit ? QStringLiteral("creditShortcut") : QStringLiteral("stcokShortcut"))
+        , otherKey(isCredit ? QStringLiteral("stcokShortcut") : QStringLiteral("creditShortcut"))
+    {
+    }
+
+    CTableLineEdit& editor(int row) const
+    {
+        return *qobject_cast<CTableLineEdit*>(table.cellWidget(row, 1));
+    }
+
+    void capture(int row, Qt::Key pressed, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(&editor(row), pressed, modifiers);
+    }
+
+    QString status(int row) const { return table.item(row, 2)->text(); }
+    QBrush statusBrush(int row) const { return table.item(row, 2)->foreground(); }
+    bool hasEntry() const { return dialog->inputValidity.contains(key); }
+    bool entry() const { return dialog->inputValidity.value(key, false); }
+
+    /// The rows whose editors take keys.
+    QList<int> enabledRows() const
+    {
+        QList<int> rows;
+        for (int row = 0; row < table.rowCount(); ++row) {
+            if (editor(row).isEnabled())
+                rows << row;
+        }
+        return rows;
+    }
+
+    Dialog dialog;
+    bool credit;
+    QTableWidget& table;
+    QStringList& texts;
+    QString key;
+    QString otherKey;
+};
+
+QList<int> allRows() { return {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}; }
+
+QStringList seen;
+
+void recordMessage(QtMsgType, const QMessageLogContext&, const QString& text) { seen << text; }
+
+/// The debug lines written while this object lives.
+class Log {
+public:
+    Log()
+        : m_previous(qInstallMessageHandler(recordMessage))
+    {
+        seen.clear();
+    }
+    ~Log() { qInstallMessageHandler(m_previous); }
+    Log(const Log&) = delete;
+    Log& operator=(const Log&) = delete;
+
+private:
+    QtMessageHandler m_previous;
+};
+
+double luminance(QRgb colour)
+{
+    const auto linear = [](int channel) {
+        const double value = channel / 255.0;
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour))
+        + 0.0722 * linear(qBlue(colour));
+}
+
+double contrast(QRgb one, QRgb other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+} // namespace
+
+class tst_ShortcutTable : public QObject {
+    Q_OBJECT
+
+private slots:
+    void setUp_data();
+    void setUp();
+    void globalTableIsFixed();
+    void headerIsReadable_data();
+    void headerIsReadable();
+    void headerFollowsThePalette();
+
+    void firstDuplicate_data();
+    void firstDuplicate();
+
+    void noKeyNoEntry();
+    void freeKeyIsAccepted_data() { bothTables(); }
+    void freeKeyIsAccepted();
+    void everyRowStoresItsOwnKey_data() { bothTables(); }
+    void everyRowStoresItsOwnKey();
+    void duplicateIsRefused_data() { bothTables(); }
+    void duplicateIsRefused();
+    void duplicatesAreFoundInAscendingOrder_data() { bothTables(); }
+    void duplicatesAreFoundInAscendingOrder();
+    void duplicateStaysStored_data() { bothTables(); }
+    void duplicateStaysStored();
+    void correctionEnablesAllAgain_data() { bothTables(); }
+    void correctionEnablesAllAgain();
+    void comparisonIsExact_data() { bothTables(); }
+    void comparisonIsExact();
+    void emptyTextShowsEmpty_data() { bothTables(); }
+    void emptyTextShowsEmpty();
+    void emptyTextKeepsAnError_data() { bothTables(); }
+    void emptyTextKeepsAnError();
+    void tablesAreNotCompared_data() { bothTables(); }
+    void tablesAreNotCompared();
+    void confirmRefusesAnError_data() { bothTables(); }
+    void confirmRefusesAnError();
+
+    void stockRefusesGlobalHotkeys_data();
+    void stockRefusesGlobalHotkeys();
+    void globalHotkeysAreExact();
+    void globalHotkeyComesBeforeTheDuplicate();
+    void creditTakesGlobalHotkeys();
+    void stockChecksItsOwnKeyAgain();
+    void creditIgnoresItsOwnKey();
+    void creditAloneWritesTheList();
+
+    void setLineEditEnableLeavesTheRow();
+
+private:
+    static void bothTables();
+};
+
+void tst_ShortcutTable::bothTables()
+{
+    QTest::addColumn<bool>("credit");
+    QTest::newRow("stock") << false;
+    QTest::newRow("credit") << true;
+}
+
+void tst_ShortcutTable::setUp_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("stock") << "tableWidget_shortcut" << 13;
+    QTest::newRow("credit") << "tableWidget_credit" << 13;
+    QTest::newRow("global") << "tableWidget_whole" << 2;
+}
+
+void tst_ShortcutTable::setUp()
+{
+    QFETCH(QString, name);
+    QFETCH(int, rows);
+    const Dialog dialog;
+    const QTableWidget& table = dialog.table(name);
+
+    QCOMPARE(table.frameShape(), QFrame::NoFrame);
+    const QHeaderView& header = *table.horizontalHeader();
+    QVERIFY(!header.isEnabled());
+    QCOMPARE(header.defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QCOMPARE(header.styleSheet(),
+             QStringLiteral("background-color:rgba(235,235,235,0.28);font:18px;"
+                            "QHeaderView::section{font:18px '宋体'; padding-left:2px; }"));
+    QCOMPARE(header.minimumHeight(), 37);
+    QCOMPARE(header.maximumHeight(), 37);
+    QVERIFY(table.verticalHeader()->isHidden());
+    QCOMPARE(table.verticalHeader()->defaultSectionSize(), 37);
+    QCOMPARE(table.selectionBehavior(), QAbstractItemView::SelectRows);
+
+    QCOMPARE(table.columnCount(), 3);
+    const QStringList titles
+        = {QStringLiteral("功能说明"), QStringLiteral("键位设定"), QStringLiteral("设置说明")};
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(header.sectionResizeMode(column), QHeaderView::Stretch);
+        QCOMPARE(table.horizontalHeaderItem(column)->text(), titles.at(column));
+        QCOMPARE(table.model()->headerData(column, Qt::Horizontal).toString(), titles.at(column));
+    }
+
+    QCOMPARE(table.rowCount(), rows);
+    for (int row = 0; row < rows; ++row) {
+        QCOMPARE(table.rowHeight(row), 37);
+        QVERIFY(!(table.item(row, 0)->flags() & Qt::ItemIsEditable));
+        QVERIFY(!(table.item(row, 2)->flags() & Qt::ItemIsEditable));
+        QVERIFY(table.item(row, 0)->flags() & Qt::ItemIsEnabled);
+        QCOMPARE(table.item(row, 2)->text(), normal);
+        QCOMPARE(table.item(row, 2)->foreground().style(), Qt::NoBrush);
+        const auto* const editor = qobject_cast<CTableLineEdit*>(table.cellWidget(row, 1));
+        QVERIFY(editor);
+        QCOMPARE(editor->row, row);
+        QCOMPARE(editor->styleSheet(), QStringLiteral("border:0px;"));
+        QCOMPARE(editor->font().pointSize(), 11);
+        QCOMPARE(editor->isEnabled(), rows == 13);
+        if (rows == 13)
+            QCOMPARE(table.item(row, 0)->text(), functions.at(row));
+    }
+}
+
+void tst_ShortcutTable::globalTableIsFixed()
+{
+    const Dialog dialog;
+    const QTableWidget& table = dialog.table(QStringLiteral("tableWidget_whole"));
+    QCOMPARE(table.item(0, 0)->text(), QStringLiteral("刷新"));
+    QCOMPARE(table.item(1, 0)->text(), QStringLiteral("显示/隐藏交易模块"));
+    auto* const refresh = qobject_cast<CTableLineEdit*>(table.cellWidget(0, 1));
+    auto* const showHide = qobject_cast<CTableLineEdit*>(table.cellWidget(1, 1));
+    QCOMPARE(refresh->text(), QStringLiteral("F5"));
+    QCOMPARE(showHide->text(), QStringLiteral("F12"));
+
+    // Nobody listens to these editors.
+    emit refresh->signal_editFinished(0, QStringLiteral("Ctrl+A"));
+    QVERIFY(dialog->inputValidity.isEmpty());
+    QCOMPARE(dialog->stockShortcutTexts.at(0), QStringLiteral("Ctrl+A"));
+    QCOMPARE(table.item(0, 2)->text(), normal);
+    QCOMPARE(table.item(0, 2)->foreground().style(), Qt::NoBrush);
+}
+
+void tst_ShortcutTable::headerIsReadable_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QString>("name");
+    for (const char* const style : {"Fusion", "Windows"}) {
+        for (const char* const name :
+             {"tableWidget_shortcut", "tableWidget_credit", "tableWidget_whole"}) {
+            for (const bool dark : {false, true})
+                QTest::addRow("%s %s %s", style, dark ? "dark" : "light", name)
+                    << QString::fromLatin1(style) << dark << QString::fromLatin1(name);
+        }
+    }
+}
+
+void tst_ShortcutTable::headerIsReadable()
+{
+    QFETCH(QString, style);
+    QFETCH(bool, dark);
+    QFETCH(QString, name);
+    const QString styleBefore = QApplication::style()->objectName();
+    const QPalette paletteBefore = QApplication::palette();
+    QApplication::setStyle(QStyleFactory::create(style));
+    if (dark) {
+        QPalette palette(QColor(53, 53, 53), QColor(40, 40, 43));
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(role, QColor(230, 230, 230));
+        palette.setColor(QPalette::Base, QColor(30, 30, 30));
+        QApplication::setPalette(palette);
+    }
+
+    {
+        const Dialog dialog;
+        QTableWidget& table = dialog.table(name);
+        dialog->show();
+        dialog->SetCurrentIndex(2);
+        auto* const pages = qobject_cast<QStackedWidget*>(table.parentWidget()->parentWidget());
+        QVERIFY(pages);
+        pages->setCurrentWidget(table.parentWidget());
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.widget.get()));
+
+        const QHeaderView& header = *table.horizontalHeader();
+        const QImage window = dialog->grab().toImage();
+        window.save(QStringLiteral("/tmp/wt/dlgb-scratch/t.png"));
+        const QPoint origin = header.mapTo(dialog.widget.get(), QPoint());
+        for (int column = 0; column < 3; ++column) {
+            // Inside the section's borders.
+            const QRect section(origin + QPoint(header.sectionViewportPosition(column) + 2, 3),
+                                QSize(header.sectionSize(column) - 4, 31));
+            const QRgb ground = window.pixel(section.right() - 4, section.center().y());
+            QCOMPARE(luminance(ground) < 0.2, dark);
+            int readable = 0;
+            for (int y = section.top(); y <= section.bottom(); ++y) {
+                for (int x = section.left(); x <= section.right(); ++x) {
+                    if (contrast(window.pixel(x, y), ground) >= 4.5)
+                        ++readable;
+                }
+            }
+            // Four characters of 18 pixels leave some hundred pixels of strokes.
+            QVERIFY2(readable > 150, qPrintable(QString::number(readable)));
+            QVERIFY2(readable < section.width() * section.height() / 3,
+                     qPrintable(QString::number(readable)));
+        }
+    }
+    QApplication::setPalette(paletteBefore);
+    QApplication::setStyle(QStyleFactory::create(styleBefore));
+}
+
+void tst_ShortcutTable::headerFollowsThePalette()
+{
+    const Dialog dialog;
+    const QTableWidget& table = dialog.table(QStringLiteral("tableWidget_shortcut"));
+    QPalette palette = dialog->palette();
+    palette.setColor(QPalette::Button, QColor(1, 2, 3));
+    palette.setColor(QPalette::ButtonText, QColor(250, 251, 252));
+    dialog->setPalette(palette);
+    const auto brush = [&table](int role) {
+        return table.model()->headerData(0, Qt::Horizontal, role).value<QBrush>().color();
+    };
+    QCOMPARE(brush(Qt::BackgroundRole), QColor(1, 2, 3));
+    QCOMPARE(brush(Qt::ForegroundRole), QColor(250, 251, 252));
+}
+
+void tst_ShortcutTable::firstDuplicate_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("found");
+
+    const auto list
+        = [](const char* texts) { return QString::fromLatin1(texts).split(QLatin1Char(' ')); };
+    QTest::newRow("none") << list("A B C") << 0 << "D" << -1;
+    QTest::newRow("only itself") << list("A B C") << 1 << "B" << -1;
+    QTest::newRow("before") << list("A B C") << 2 << "A" << 0;
+    QTest::newRow("after") << list("A B C") << 0 << "C" << 2;
+    QTest::newRow("first of two") << list("A B B") << 0 << "B" << 1;
+    QTest::newRow("first of two, around") << list("B A B") << 1 << "B" << 0;
+    QTest::newRow("itself is skipped, not the next") << list("B B C") << 0 << "B" << 1;
+    QTest::newRow("case matters") << list("F5 a") << 1 << "f5" << -1;
+    QTest::newRow("no trimming") << list("F5 F1") << 1 << "F5 " << -1;
+    QTest::newRow("row outside") << list("A B") << 7 << "B" << 1;
+    QTest::newRow("no rows") << QStringList() << 0 << "A" << -1;
+}
+
+void tst_ShortcutTable::firstDuplicate()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(int, row);
+    QFETCH(QString, text);
+    QTEST(ShortcutTable::firstDuplicate(texts, row, text), "found");
+}
+
+void tst_ShortcutTable::noKeyNoEntry()
+{
+    const Dialog dialog;
+    QVERIFY(dialog->inputValidity.isEmpty());
+    dialog->show();
+    // Visiting a cell without pressing a key is no edit.
+    auto* const editor = dialog.table(QStringLiteral("tableWidget_shortcut")).cellWidget(3, 1);
+    editor->setFocus();
+    dialog->ui.pushButton_confirm->setFocus();
+    QVERIFY(dialog->inputValidity.isEmpty());
+    QCOMPARE(editor->styleSheet(), QStringLiteral("border:0px;"));
+}
+
+void tst_ShortcutTable::freeKeyIsAccepted()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    side.capture(4, Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(side.editor(4).text(), QStringLiteral("Ctrl+Shift+X"));
+    QCOMPARE(side.texts.at(4), QStringLiteral("Ctrl+Shift+X"));
+    QCOMPARE(side.editor(4).styleSheet(), green);
+    QCOMPARE(side.status(4), normal);
+    QCOMPARE(side.statusBrush(4), QBrush(QColor(0, 255, 0)));
+    QVERIFY(side.hasEntry());
+    QVERIFY(side.entry());
+    QVERIFY(!side.dialog->inputValidity.contains(side.otherKey));
+    QCOMPARE(side.dialog->inputValidity.size(), 1);
+    QCOMPARE(side.enabledRows(), allRows());
+    // No other row is touched.
+    for (int row = 0; row < 13; ++row) {
+        if (row == 4)
+            continue;
+        QCOMPARE(side.editor(row).styleSheet(), QStringLiteral("border:0px;"));
+        QCOMPARE(side.statusBrush(row).style(), Qt::NoBrush);
+        QCOMPARE(side.texts.at(row),
+                 (credit ? QStringLiteral("Alt+") : QStringLiteral("Ctrl+")) + lettersByRow[row]);
+    }
+}
+
+void tst_ShortcutTable::everyRowStoresItsOwnKey()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    for (int row = 0; row < 13; ++row)
+        side.capture(row, Qt::Key(Qt::Key_A + row), Qt::ControlModifier | Qt::AltModifier);
+    for (int row = 0; row < 13; ++row)
+        QCOMPARE(side.texts.at(row), QStringLiteral("Ctrl+Alt+") + QLatin1Char(char('A' + row)));
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.dialog.trade.saves, 1);
+    // By record entry: the record keeps another order of the functions than the tables.
+    const QByteArray lettersByEntry = "ABEFGCDHIJKLM";
+    const auto texts = credit ? &TradeParm::creditShortcuts : &TradeParm::stockShortcuts;
+    for (int entry = 0; entry < 13; ++entry)
+        QCOMPARE(side.dialog.trade.text(texts, entry), "Ctrl+Alt+" + lettersByEntry.mid(entry, 1));
+}
+
+void tst_ShortcutTable::duplicateIsRefused()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    QCOMPARE(side.editor(4).styleSheet(), red);
+    QCOMPARE(side.status(4), QStringLiteral("与买入股票重复"));
+    QCOMPARE(side.statusBrush(4), QBrush(QColor(255, 0, 0)));
+    QVERIFY(side.hasEntry());
+    QVERIFY(!side.entry());
+    QVERIFY(!side.dialog->inputValidity.contains(side.otherKey));
+    QCOMPARE(side.enabledRows(), QList<int>{4});
+    // The row that had the key first is not marked.
+    QCOMPARE(side.editor(0).styleSheet(), QStringLiteral("border:0px;"));
+    QCOMPARE(side.status(0), normal);
+    // The cells of the other table are not disabled.
+    const auto* const other = side.dialog
+                                  .table(credit ? QStringLiteral("tableWidget_shortcut")
+                                                : QStringLiteral("tableWidget_credit"))
+                                  .cellWidget(0, 1);
+    QVERIFY(other->isEnabled());
+}
+
+void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    side.texts[9] = QStringLiteral("Ctrl+Alt+Q");
+    side.texts[6] = QStringLiteral("Ctrl+Alt+Q");
+    side.capture(12, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(side.status(12), QStringLiteral("与委托重复"));
+    side.capture(2, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(side.status(2), normal); // disabled: no key reaches it
+    side.editor(2).setEnabled(true);
+    side.capture(2, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(side.status(2), QStringLiteral("与委托重复"));
+}
+
+void tst_ShortcutTable::duplicateStaysStored()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    QCOMPARE(side.texts.at(4), credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A"));
+    QCOMPARE(side.editor(4).text(), side.texts.at(4));
+}
+
+void tst_ShortcutTable::correctionEnablesAllAgain()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    QCOMPARE(side.enabledRows(), QList<int>{4});
+    // Another duplicate keeps the error and names the other row.
+    side.capture(4, Qt::Key_B, credit ? Qt::AltModifier : Qt::ControlModifier);
+    QCOMPARE(side.status(4), QStringLiteral("与卖出股票重复"));
+    QCOMPARE(side.enabledRows(), QList<int>{4});
+    side.capture(4, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(side.editor(4).styleSheet(), green);
+    QCOMPARE(side.status(4), normal);
+    QCOMPARE(side.statusBrush(4), QBrush(QColor(0, 255, 0)));
+    QVERIFY(side.entry());
+    QCOMPARE(side.enabledRows(), allRows());
+}
+
+void tst_ShortcutTable::comparisonIsExact()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    side.texts[0] = QStringLiteral("f7");
+    side.texts[1] = QStringLiteral("F7 ");
+    side.capture(4, Qt::Key_F7);
+    QCOMPARE(side.status(4), normal);
+    QVERIFY(side.entry());
+    side.texts[1] = QStringLiteral("F7");
+    side.capture(5, Qt::Key_F7);
+    QCOMPARE(side.status(5), QStringLiteral("与卖出股票重复"));
+}
+
+void tst_ShortcutTable::emptyTextShowsEmpty()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    emit side.editor(4).signal_editFinished(4, QString());
+    QCOMPARE(side.editor(4).text(), QStringLiteral("空"));
+    QCOMPARE(side.texts.at(4), QString());
+    QCOMPARE(side.editor(4).styleSheet(), QStringLiteral("border:0px;"));
+    QCOMPARE(side.status(4), normal);
+    QCOMPARE(side.statusBrush(4).style(), Qt::NoBrush);
+    QVERIFY(!side.hasEntry());
+    QCOMPARE(side.enabledRows(), allRows());
+    // Two empty keys are no duplicates.
+    emit side.editor(5).signal_editFinished(5, QString());
+    QVERIFY(!side.hasEntry());
+    QCOMPARE(side.editor(5).text(), QStringLiteral("空"));
+}
+
+void tst_ShortcutTable::emptyTextKeepsAnError()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    emit side.editor(4).signal_editFinished(4, QString());
+    QCOMPARE(side.editor(4).text(), QStringLiteral("空"));
+    QCOMPARE(side.editor(4).styleSheet(), red);
+    QCOMPARE(side.status(4), QStringLiteral("与买入股票重复"));
+    QCOMPARE(side.statusBrush(4), QBrush(QColor(255, 0, 0)));
+    QVERIFY(!side.entry());
+    QCOMPARE(side.enabledRows(), QList<int>{4});
+}
+
+void tst_ShortcutTable::tablesAreNotCompared()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    // The key that the other table has in row 0.
+    side.capture(4, Qt::Key_A, credit ? Qt::ControlModifier : Qt::AltModifier);
+    QCOMPARE(side.editor(4).styleSheet(), green);
+    QVERIFY(side.entry());
+}
+
+void tst_ShortcutTable::confirmRefusesAnError()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    side.dialog->show();
+    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    {
+        const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
+        side.dialog->ui.pushButton_confirm->click();
+        QCOMPARE(answer.title(), QStringLiteral("提示"));
+    }
+    QCOMPARE(side.dialog.trade.saves, 0);
+    QVERIFY(side.dialog->isVisible());
+    side.capture(4, Qt::Key_Y, Qt::ControlModifier);
+    side.dialog->ui.pushButton_confirm->click();
+    QCOMPARE(side.dialog.trade.saves, 1);
+    QVERIFY(!side.dialog->isVisible());
+}
+
+void tst_ShortcutTable::stockRefusesGlobalHotkeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("status");
+    QTest::newRow("F5") << int(Qt::Key_F5) << QStringLiteral("F5为全局快捷键！");
+    QTest::newRow("F12") << int(Qt::Key_F12) << QStringLiteral("F12为全局快捷键！");
+}
+
+void tst_ShortcutTable::stockRefusesGlobalHotkeys()
+{
+    QFETCH(int, key);
+    const Side side(false);
+    const QStringList before = side.texts;
+    side.capture(7, Qt::Key(key));
+    QCOMPARE(side.editor(7).styleSheet(), red);
+    QTEST(side.status(7), "status");
+    QCOMPARE(side.statusBrush(7), QBrush(QColor(255, 0, 0)));
+    QCOMPARE(side.enabledRows(), QList<int>{7});
+    QVERIFY(side.hasEntry());
+    QVERIFY(!side.entry());
+    // The row keeps its previous key in the list, though the cell shows the new one.
+    QCOMPARE(side.texts, before);
+
+    // The key that was there before is free still, and it mends the row.
+    side.capture(7, Qt::Key_H, Qt::ControlModifier);
+    QCOMPARE(side.status(7), normal);
+    QVERIFY(side.entry());
+    QCOMPARE(side.enabledRows(), allRows());
+}
+
+void tst_ShortcutTable::globalHotkeysAreExact()
+{
+    const Side side(false);
+    side.capture(7, Qt::Key_F5, Qt::ShiftModifier);
+    QCOMPARE(side.texts.at(7), QStringLiteral("Shift+F5"));
+    QVERIFY(side.entry());
+    emit side.editor(7).signal_editFinished(7, QStringLiteral("f5"));
+    QVERIFY(side.entry());
+    emit side.editor(7).signal_editFinished(7, QStringLiteral("F1"));
+    QVERIFY(side.entry());
+    emit side.editor(7).signal_editFinished(7, QStringLiteral("F5"));
+    QVERIFY(!side.entry());
+}
+
+void tst_ShortcutTable::globalHotkeyComesBeforeTheDuplicate()
+{
+    Side side(false);
+    side.texts[0] = QStringLiteral("F5");
+    side.capture(7, Qt::Key_F5);
+    QCOMPARE(side.status(7), QStringLiteral("F5为全局快捷键！"));
+    QCOMPARE(side.texts.at(7), QStringLiteral("Ctrl+H"));
+}
+
+void tst_ShortcutTable::creditTakesGlobalHotkeys()
+{
+    const Side side(true);
+    side.capture(7, Qt::Key_F5);
+    QCOMPARE(side.texts.at(7), QStringLiteral("F5"));
+    QCOMPARE(side.editor(7).styleSheet(), green);
+    QCOMPARE(side.status(7), normal);
+    QVERIFY(side.entry());
+    side.capture(8, Qt::Key_F5);
+    QCOMPARE(side.status(8), QStringLiteral("与全撤重复"));
+    QVERIFY(!side.entry());
+}
+
+void tst_ShortcutTable::stockChecksItsOwnKeyAgain()
+{
+    const Side side(false);
+    side.capture(0, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(side.editor(0).styleSheet(), green);
+    QCOMPARE(side.status(0), normal);
+    QCOMPARE(side.statusBrush(0), QBrush(QColor(0, 255, 0)));
+    QVERIFY(side.hasEntry());
+    QVERIFY(side.entry());
+}
+
+void tst_ShortcutTable::creditIgnoresItsOwnKey()
+{
+    const Side side(true);
+    side.capture(0, Qt::Key_A, Qt::AltModifier);
+    QCOMPARE(side.editor(0).styleSheet(), QStringLiteral("border:0px;"));
+    QCOMPARE(side.statusBrush(0).style(), Qt::NoBrush);
+    QVERIFY(!side.hasEntry());
+
+    // Also in error: repeating the refused key changes nothing, not even a mended enabling.
+    side.capture(4, Qt::Key_A, Qt::AltModifier);
+    QVERIFY(!side.entry());
+    side.editor(0).setEnabled(true);
+    side.capture(4, Qt::Key_A, Qt::AltModifier);
+    QVERIFY(side.editor(0).isEnabled());
+    QVERIFY(!side.entry());
+
+    // And an empty cell that captures nothing keeps what it shows.
+    Side empty(true);
+    empty.texts[3].clear();
+    empty.editor(3).setText(QStringLiteral("x"));
+    emit empty.editor(3).signal_editFinished(3, QString());
+    QCOMPARE(empty.editor(3).text(), QStringLiteral("x"));
+}
+
+void tst_ShortcutTable::creditAloneWritesTheList()
+{
+    const Side stock(false);
+    const Side credit(true);
+    const Log log;
+    stock.capture(4, Qt::Key_Y, Qt::ControlModifier);
+    stock.capture(5, Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(seen.filter(QStringLiteral("edit m_shortCutList2 ")).isEmpty());
+
+    credit.capture(4, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 1);
+    QVERIFY(seen.constLast().contains(QStringLiteral("\"Alt+A\"")));
+    QVERIFY(seen.constLast().contains(QStringLiteral("\"Ctrl+Y\"")));
+    QVERIFY(seen.constLast().contains(QStringLiteral("\"Alt+M\"")));
+    credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
+    // Neither an unchanged nor an empty key writes it.
+    credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
+    emit credit.editor(5).signal_editFinished(5, QString());
+    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
+}
+
+void tst_ShortcutTable::setLineEditEnableLeavesTheRow()
+{
+    const Side stock(false);
+    stock.dialog->SetLineEditEnable(3, false);
+    QCOMPARE(stock.enabledRows(), QList<int>{3});
+    // The named row stays as it is, whatever that is.
+    stock.dialog->SetLineEditEnable(5, true);
+    QList<int> butFive = allRows();
+    butFive.removeAt(5);
+    QCOMPARE(stock.enabledRows(), butFive);
+
+    const Side credit(true);
+    credit.dialog->SetLineEditEnable2(12, false);
+    QCOMPARE(credit.enabledRows(), QList<int>{12});
+    credit.dialog->SetLineEditEnable2(12, true);
+    QCOMPARE(credit.enabledRows(), allRows());
+}
+
+TRADECONFIG_TEST_MAIN(tst_ShortcutTable)
+#include "tst_ShortcutTable.moc"
