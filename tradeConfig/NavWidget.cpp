@@ -1,5 +1,6 @@
 #include "tradeConfig/NavWidget.h"
 
+#include "tradeConfig/NavWidgetAccessible.h"
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
 
@@ -25,6 +26,7 @@ CNavWidget::CNavWidget(QWidget* parent)
     : QWidget(parent)
 {
     setMouseTracking(true);
+    NavWidgetAccessible::install();
 }
 
 void CNavWidget::SetBtnList(QStringList list)
@@ -39,9 +41,15 @@ int CNavWidget::EntryAt(int y) const
     return y > 0 && y < bandHeight * count ? y / bandHeight : noEntry;
 }
 
+QRectF CNavWidget::EntryRect(int index) const
+{
+    return QRectF(0, bandHeight * index, width(), bandHeight);
+}
+
 void CNavWidget::Press(int index)
 {
     selected = index;
+    NavWidgetAccessible::selected(*this);
     const QPointer<CNavWidget> alive = this; // a slot may delete the list
     Q_EMIT signal_onclicked(selected);
     if (alive)
@@ -83,7 +91,7 @@ void CNavWidget::paintEvent(QPaintEvent*)
         fill(QRectF(0, 0, w - 1, band), Colour::NavSwitchBorder());
     fill(QRectF(0, band + bandHeight, w - 1, h - band - bandHeight), Colour::NavSwitchBorder());
     if (hover != selected)
-        fill(QRectF(0, bandHeight * hover, w, bandHeight), Colour::NavSwitchBgHover());
+        fill(EntryRect(hover), Colour::NavSwitchBgHover());
     for (int i = 0; i < count; ++i) {
         const bool isSelected = i == selected;
         CSkin::Instance()->drawText(

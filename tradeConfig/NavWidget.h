@@ -35,6 +35,9 @@ protected:
     int hover = 0; ///< index of the highlighted entry; selected while the mouse is outside
 
 private:
+    friend class NavWidgetAccessible;
+
     int EntryAt(int y) const;
+    QRectF EntryRect(int index) const;
     void Press(int index);
 };

@@ -1,6 +1,7 @@
 #include "tradeConfig/SwitchEx.h"
 
 #include "tradeConfig/SwitchAxis.h"
+#include "tradeConfig/SwitchExAccessible.h"
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
 
@@ -33,6 +34,7 @@ CSwitchEx::CSwitchEx(QWidget* parent, Qt::Orientation barOrientation, QMargins i
     , padding(itemPadding)
 {
     setMouseTracking(true);
+    SwitchExAccessible::install();
 }
 
 void CSwitchEx::changeMode(CSwitchEx::SwitchMode newMode)
@@ -147,6 +149,7 @@ bool CSwitchEx::ModifySwitch(const QString& oldLabel, const QString& newLabel,
         return false;
     item->label = newLabel;
     item->callback = std::move(callback);
+    SwitchExAccessible::renamed(*this, item);
     update();
     return true;
 }
@@ -162,6 +165,7 @@ bool CSwitchEx::ModifyImageSwitch(const QString& oldLabel, const QString& newLab
     item->image = image;
     item->selImage = selImage;
     item->callback = std::move(callback);
+    SwitchExAccessible::renamed(*this, item);
     update();
     return true;
 }
@@ -171,6 +175,7 @@ void CSwitchEx::SetItemLabel(SwitchItem* item, const QString& label)
     if (!Owns(item))
         return;
     item->label = label;
+    SwitchExAccessible::renamed(*this, item);
     update();
 }
 
@@ -201,6 +206,7 @@ void CSwitchEx::SetCurSel(SwitchItem* item, bool notify)
     if (!Owns(item))
         return;
     curSel = item;
+    SwitchExAccessible::selected(*this);
     const QPointer<CSwitchEx> alive = this; // an action may delete the bar
     if (notify)
         DoClickItem();
@@ -512,6 +518,7 @@ void CSwitchEx::mousePressEvent(QMouseEvent* event)
     if (!item || item->isSeparator)
         return;
     curSel = item;
+    SwitchExAccessible::selected(*this);
     update();
 }
 

@@ -161,6 +161,8 @@ protected:
     bool backgroundEnable = true;
 
 private:
+    friend class SwitchExAccessible;
+
     // Everything that a layout depends on or sets, but the items' cells.
     struct LayoutState {
         QSize size;
