@@ -1,0 +1,87 @@
+#include "support/FakeTrade.h"
+#include "support/TestMain.h"
+
+#include <QLibrary>
+#include <QProcess>
+#include <memory>
+
+namespace {
+
+QString modulePath() { return QString::fromUtf8(MODULE_PATH); }
+
+} // namespace
+
+class tst_ModuleExports : public QObject {
+    Q_OBJECT
+
+private slots:
+    void exactlySevenSymbols();
+    void loadsAndMakesTheDialog();
+    void namesAreUnmangled_data();
+    void namesAreUnmangled();
+};
+
+void tst_ModuleExports::exactlySevenSymbols()
+{
+    QProcess lister;
+    lister.start(QStringLiteral("nm"),
+                 {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                  QStringLiteral("--format=posix"), modulePath()});
+    QVERIFY2(lister.waitForFinished(), qPrintable(lister.errorString()));
+    QCOMPARE(lister.exitCode(), 0);
+    QStringList names;
+    const QList<QByteArray> lines = lister.readAllStandardOutput().split('\n');
+    for (const QByteArray& line : lines) {
+        if (line.isEmpty())
+            continue;
+        const QList<QByteArray> columns = line.split(' ');
+        names << QString::fromLatin1(columns.at(0));
+        QCOMPARE(columns.at(1), QByteArray("T")); // functions, all of them
+    }
+    names.sort();
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("ApplicationHomePath CreateModuleWidget GetDiskId "
+                            "GetMainExecutableVersion GetMainExecutableVersionNum GetSystemUuid "
+                            "hideWindowCaptionBar"));
+}
+
+void tst_ModuleExports::loadsAndMakesTheDialog()
+{
+    QLibrary module(modulePath());
+    QVERIFY2(module.load(), qPrintable(module.errorString()));
+    using Factory = void* (*)(KivoTrade::ITrade*);
+    const auto create = reinterpret_cast<Factory>(module.resolve("CreateModuleWidget"));
+    QVERIFY(create);
+    FakeTrade trade;
+    trade.setDistinctShortcuts();
+    trade.parm().lockMinutes = 17;
+    const std::unique_ptr<QWidget> dialog(static_cast<QWidget*>(create(&trade)));
+    QCOMPARE(dialog->metaObject()->className(), "CTradeConfigWidget");
+    QVERIFY(!dialog->parentWidget());
+    const auto* const lockTime
+        = dialog->findChild<QLineEdit*>(QStringLiteral("lineEdit_system_lockTime"));
+    QCOMPARE(lockTime->text(), QStringLiteral("17"));
+    dialog->show();
+    QVERIFY(!dialog->grab().isNull());
+    dialog->findChild<QPushButton*>(QStringLiteral("pushButton_confirm"))->click();
+    QCOMPARE(trade.saves, 1);
+    QCOMPARE(trade.foreignCalls, 0);
+    QVERIFY(!dialog->isVisible());
+}
+
+void tst_ModuleExports::namesAreUnmangled_data()
+{
+    for (const char* const name :
+         {"CreateModuleWidget", "ApplicationHomePath", "hideWindowCaptionBar",
+          "GetMainExecutableVersion", "GetMainExecutableVersionNum", "GetDiskId", "GetSystemUuid"})
+        QTest::newRow(name);
+}
+
+void tst_ModuleExports::namesAreUnmangled()
+{
+    QLibrary module(modulePath());
+    QVERIFY(module.resolve(QTest::currentDataTag()));
+}
+
+TRADECONFIG_TEST_MAIN(tst_ModuleExports)
+#include "tst_ModuleExports.moc"
