@@ -52,10 +52,16 @@ const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
 
 } // namespace
 
-CTradeConfigWidget::CTradeConfigWidget(KivoTrade::ITrade* trade, QWidget* parent)
+CTradeConfigWidget::CTradeConfigWidget(QWidget* parent)
     : QWidget(parent)
 {
     ui.setupUi(this);
+}
+
+// Delegates, so that the destructor frees the bar's items when the host's core throws below.
+CTradeConfigWidget::CTradeConfigWidget(KivoTrade::ITrade* trade, QWidget* parent)
+    : CTradeConfigWidget(parent)
+{
     m_pTrade = trade;
     qDebug("CTradeConfigWidget 1");
     InitWidget();
@@ -70,7 +76,8 @@ CTradeConfigWidget::CTradeConfigWidget(KivoTrade::ITrade* trade, QWidget* parent
 CTradeConfigWidget::~CTradeConfigWidget()
 {
     // The bar does not free its items by itself.
-    switchBar->ClearAll();
+    if (switchBar)
+        switchBar->ClearAll();
 }
 
 void CTradeConfigWidget::InitWidget()

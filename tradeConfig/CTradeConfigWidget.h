@@ -120,6 +120,9 @@ protected:
     bool restartNeeded = false; ///< the scale was edited
 
 private:
+    /// The form alone.
+    explicit CTradeConfigWidget(QWidget* parent);
+
     void initSwitchBar();
     void initValidators();
     void readSplitGroup(const TradeParm& parm, const SplitGroup& group);
