@@ -1,0 +1,193 @@
+#include "tradeConfig/skin/CSkin.h"
+
+#include "ActiveSkin.h"
+
+#include <QFontMetricsF>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QtMath>
+#include <cmath>
+
+namespace CorvelSkin {
+namespace {
+
+constexpr int maxRasterSide = 4096;
+
+ActiveSkin& active() { return ActiveSkin::instance(); }
+
+bool isWhole(double value) { return value == std::floor(value); }
+
+/**
+ * Whether a one-pixel outline of @p rect is exactly four whole rows and columns of the device.
+ *
+ * Filling those is many times cheaper than stroking. It holds for a painter that draws aliased,
+ * at a whole-numbered scale, with edges on the pixel grid.
+ */
+bool outlineIsOnGrid(const QPainter& painter, const QRectF& rect)
+{
+    if (painter.testRenderHint(QPainter::Antialiasing) || rect.width() < 1.0 || rect.height() < 1.0)
+        return false;
+    const QPaintEngine* const engine = painter.paintEngine();
+    const QTransform& transform = painter.deviceTransform();
+    return engine && engine->type() == QPaintEngine::Raster
+        && transform.type() <= QTransform::TxTranslate && isWhole(rect.x() + transform.dx())
+        && isWhole(rect.y() + transform.dy()) && isWhole(rect.width()) && isWhole(rect.height());
+}
+
+void fillOutline(QPainter& painter, const QRectF& rect, const QColor& colour)
+{
+    const double x = rect.x();
+    const double y = rect.y();
+    const double w = rect.width();
+    const double h = rect.height();
+    painter.fillRect(QRectF(x, y, w + 1.0, 1.0), colour);
+    painter.fillRect(QRectF(x, y + h, w + 1.0, 1.0), colour);
+    painter.fillRect(QRectF(x, y + 1.0, 1.0, h - 1.0), colour);
+    painter.fillRect(QRectF(x + w, y + 1.0, 1.0, h - 1.0), colour);
+}
+
+/// Sets pen and brush for one stroke and gives the painter's own back.
+class Stroking {
+public:
+    Stroking(QPainter& painter, const QPen& pen)
+        : m_painter(painter)
+        , m_pen(painter.pen())
+        , m_brush(painter.brush())
+    {
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+    }
+    ~Stroking()
+    {
+        m_painter.setBrush(m_brush);
+        m_painter.setPen(m_pen);
+    }
+    Q_DISABLE_COPY(Stroking)
+
+private:
+    QPainter& m_painter;
+    const QPen m_pen;
+    const QBrush m_brush;
+};
+
+/// The largest rectangle of the frame's proportions inside @p rect, centred.
+QRectF fitted(const QRectF& rect, const QSizeF& frame)
+{
+    const QSizeF size = frame.scaled(rect.size(), Qt::KeepAspectRatio);
+    return QRectF(rect.center() - QPointF(size.width() / 2.0, size.height() / 2.0), size);
+}
+
+/// @p side device pixels as the nearest whole number that can be drawn.
+int pixelsOf(double side)
+{
+    return qBound(1, qRound(qMin(side, 1.0 * maxRasterSide)), maxRasterSide);
+}
+
+} // namespace
+
+CSkin* CSkin::Instance()
+{
+    static CSkin instance;
+    return &instance;
+}
+
+void CSkin::fillRect(QPainter& painter, QRectF rect, QString colorKey)
+{
+    if (const QColor* const colour = active().colour(colorKey))
+        painter.fillRect(rect, *colour);
+}
+
+void CSkin::drawRect(QPainter& painter, QRectF rect, QString colorKey, Qt::PenStyle penStyle,
+                     double penWidth)
+{
+    if (penStyle == Qt::SolidLine && penWidth == 1.0 && outlineIsOnGrid(painter, rect)) {
+        if (const QColor* const colour = active().colour(colorKey))
+            fillOutline(painter, rect, *colour);
+        return;
+    }
+    const QPen* const pen = active().pen(colorKey, penStyle, penWidth);
+    if (!pen)
+        return;
+    const Stroking stroking(painter, *pen);
+    painter.drawRect(rect);
+}
+
+void CSkin::drawLine(QPainter& painter, QString colorKey, QPointF from, QPointF to,
+                     Qt::PenStyle penStyle, double penWidth)
+{
+    const QPen* const pen = active().pen(colorKey, penStyle, penWidth);
+    if (!pen)
+        return;
+    const Stroking stroking(painter, *pen);
+    painter.drawLine(from, to);
+}
+
+QRectF CSkin::drawText(QPainter& painter, QRectF rect, int flags, QString colorKey, QString fontKey,
+                       QString text)
+{
+    const QFont font = active().font(fontKey);
+    const QPen* const pen = active().pen(colorKey, Qt::SolidLine, 1.0);
+    if (!pen)
+        return QRectF();
+    const QFont oldFont = painter.font();
+    QRectF bounds;
+    {
+        const Stroking stroking(painter, *pen);
+        painter.setFont(font);
+        painter.drawText(rect, flags, text, &bounds);
+    }
+    painter.setFont(oldFont);
+    return bounds;
+}
+
+QSizeF CSkin::textSize(QPaintDevice* device, QString fontKey, QString text)
+{
+    const QFont font = active().font(fontKey);
+    const QFontMetricsF metrics = device ? QFontMetricsF(font, device) : QFontMetricsF(font);
+    if (text.isEmpty())
+        return QSizeF(0.0, metrics.height());
+    return metrics.size(0, text);
+}
+
+void CSkin::drawImage(QPainter& painter, QRectF rect, QString imageKey, int frameCount,
+                      int frameIndex, bool firstOption, bool secondOption)
+{
+    const bool keepProportions = firstOption;
+    const bool smooth = secondOption;
+    const SkinImage* const image = active().image(imageKey);
+    // Written so that a rectangle with a NaN draws nothing.
+    const bool visible = rect.width() > 0.0 && rect.height() > 0.0;
+    if (!image || !visible || frameCount < 1 || frameIndex < 0 || frameIndex >= frameCount)
+        return;
+
+    const QSizeF frame(image->size().width() / frameCount, image->size().height());
+    QRectF target = keepProportions ? fitted(rect, frame) : rect;
+
+    // One pixel of the picture for one of the device keeps it crisp at every scale.
+    const QTransform transform = painter.deviceTransform();
+    const double scaleX = std::hypot(transform.m11(), transform.m12());
+    const double scaleY = std::hypot(transform.m21(), transform.m22());
+    const QSize pixels(pixelsOf(target.width() * scaleX), pixelsOf(target.height() * scaleY));
+    const bool upright = transform.type() <= QTransform::TxScale && transform.m11() > 0.0
+        && transform.m22() > 0.0 && qMax(pixels.width(), pixels.height()) < maxRasterSide;
+    if (upright) {
+        const QPointF corner = transform.map(target.topLeft());
+        target = QRectF((std::round(corner.x()) - transform.dx()) / scaleX,
+                        (std::round(corner.y()) - transform.dy()) / scaleY, pixels.width() / scaleX,
+                        pixels.height() / scaleY);
+    }
+
+    const bool hint = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth && !upright);
+    const QPixmap pixmap = active().frame(*image, frameCount, frameIndex, pixels, smooth);
+    painter.drawPixmap(target, pixmap, QRectF(pixmap.rect()));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, hint);
+}
+
+QSizeF CSkin::GetBitmapSize(QString imageKey)
+{
+    const SkinImage* const image = active().image(imageKey);
+    return image ? image->size() : QSizeF();
+}
+
+} // namespace CorvelSkin

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "SkinImage.h"
+#include "SkinTable.h"
+
+#include <QHash>
+#include <memory>
+
+namespace CorvelSkin {
+
+/// A skin with everything it draws with in memory.
+struct Skin {
+    QHash<QString, QColor> colours;
+    QHash<QString, FontEntry> fonts;
+    QHash<QString, std::shared_ptr<const SkinImage>> images;
+    QHash<QString, QColor> palette;
+    QHash<QString, QColor> disabledPalette;
+};
+
+/// The light skin that is compiled in; always complete.
+Skin builtInSkin();
+
+/// Reads the skin in @p folder and fills what is absent or wrong from @p substitute; every such
+/// thing becomes a row of @p problems. False if not even the table could be read.
+bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
+              QVector<SkinProblem>& problems);
+
+/// The folders that may hold skin folders, the ones beside this library first.
+QStringList skinSearchPaths();
+
+} // namespace CorvelSkin
