@@ -18,26 +18,34 @@ ActiveSkin& active() { return ActiveSkin::instance(); }
 bool isWhole(double value) { return value == std::floor(value); }
 
 /**
- * Whether a one-pixel outline of @p rect is exactly four whole rows and columns of the device.
+ * The scale at which an outline of @p rect, one pixel wide, is four whole bands of device pixels;
+ * 0 if it is not.
  *
- * Filling those is many times cheaper than stroking. It holds for a painter that draws aliased,
- * at a whole-numbered scale, with edges on the pixel grid.
+ * Filling bands is many times cheaper than stroking. It comes to the same for a painter that
+ * draws aliased, at a whole-numbered scale, with corners on the pixel grid.
  */
-bool outlineIsOnGrid(const QPainter& painter, const QRectF& rect)
+int scaleOfBands(const QPainter& painter, const QRectF& rect)
 {
-    if (painter.testRenderHint(QPainter::Antialiasing) || rect.width() < 1.0 || rect.height() < 1.0)
-        return false;
     const QPaintEngine* const engine = painter.paintEngine();
+    if (!engine || engine->type() != QPaintEngine::Raster
+        || painter.testRenderHint(QPainter::Antialiasing))
+        return 0;
     const QTransform& transform = painter.deviceTransform();
-    return engine && engine->type() == QPaintEngine::Raster
-        && transform.type() <= QTransform::TxTranslate && isWhole(rect.x() + transform.dx())
-        && isWhole(rect.y() + transform.dy()) && isWhole(rect.width()) && isWhole(rect.height());
+    const double scale = transform.m11();
+    const bool fits = transform.type() <= QTransform::TxScale && scale == transform.m22()
+        && isWhole(scale) && scale >= 1.0 && scale <= 16.0 && rect.width() >= 1.0
+        && rect.height() >= 1.0 && isWhole(rect.x() * scale + transform.dx())
+        && isWhole(rect.y() * scale + transform.dy()) && isWhole(rect.width() * scale)
+        && isWhole(rect.height() * scale);
+    return fits ? int(scale) : 0;
 }
 
-void fillOutline(QPainter& painter, const QRectF& rect, const QColor& colour)
+void fillBands(QPainter& painter, const QRectF& rect, int scale, const QColor& colour)
 {
-    const double x = rect.x();
-    const double y = rect.y();
+    // A stroke lies across its line; of an odd number of pixels, the middle one is on it.
+    const double before = (scale / 2) / double(scale);
+    const double x = rect.x() - before;
+    const double y = rect.y() - before;
     const double w = rect.width();
     const double h = rect.height();
     painter.fillRect(QRectF(x, y, w + 1.0, 1.0), colour);
@@ -100,9 +108,11 @@ void CSkin::fillRect(QPainter& painter, QRectF rect, QString colorKey)
 void CSkin::drawRect(QPainter& painter, QRectF rect, QString colorKey, Qt::PenStyle penStyle,
                      double penWidth)
 {
-    if (penStyle == Qt::SolidLine && penWidth == 1.0 && outlineIsOnGrid(painter, rect)) {
+    const int scale
+        = penStyle == Qt::SolidLine && penWidth == 1.0 ? scaleOfBands(painter, rect) : 0;
+    if (scale != 0) {
         if (const QColor* const colour = active().colour(colorKey))
-            fillOutline(painter, rect, *colour);
+            fillBands(painter, rect, scale, *colour);
         return;
     }
     const QPen* const pen = active().pen(colorKey, penStyle, penWidth);

@@ -96,7 +96,7 @@ Skin builtInSkin()
 {
     Skin skin;
     QVector<SkinProblem> problems;
-    readSkin(QStringLiteral(":/skins/light"), Skin(), skin, problems);
+    readSkin(QStringLiteral(":/libskin/skins/light"), Skin(), skin, problems);
     Q_ASSERT(problems.isEmpty());
     return skin;
 }

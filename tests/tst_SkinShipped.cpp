@@ -1,0 +1,362 @@
+#include "libskin/SkinLibrary.h"
+#include "support/MessageCapture.h"
+#include "support/TemporarySkin.h"
+#include "support/TestMain.h"
+#include "tradeConfig/skin/CSkin.h"
+#include "tradeConfig/skin/SkinKeys.h"
+
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QPainter>
+#include <QProcess>
+#include <QSet>
+#include <cmath>
+
+using CorvelSkin::CSkin;
+using CorvelSkin::SkinLibrary;
+
+namespace {
+
+const QStringList& shippedSkins()
+{
+    static const QStringList names{QStringLiteral("dark"), QStringLiteral("light")};
+    return names;
+}
+
+QImage canvas(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+bool isEmpty(const QImage& image) { return image == canvas(image.width(), image.height()); }
+
+QImage drawnFrame(const QString& key, int count, int index)
+{
+    QImage image = canvas(28, 28);
+    QPainter painter(&image);
+    CSkin::Instance()->drawImage(painter, QRectF(0, 0, 28, 28), key, count, index, true, false);
+    return image;
+}
+
+/// WCAG's relative luminance.
+double luminance(const QColor& colour)
+{
+    const auto linear
+        = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = luminance(one);
+    const double b = luminance(other);
+    return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
+}
+
+} // namespace
+
+class tst_SkinShipped : public QObject {
+    Q_OBJECT
+private slots:
+    void lightServesBeforeAnyLoad();
+    void namesAreListed();
+    void loadsWithoutProblems_data();
+    void loadsWithoutProblems();
+    void everyColour_data();
+    void everyColour();
+    void everyFont_data();
+    void everyFont();
+    void everyImage_data();
+    void everyImage();
+    void builtInLightIsTheShippedOne();
+    void paletteFollowsTheTable_data();
+    void paletteFollowsTheTable();
+    void textIsReadable_data();
+    void textIsReadable();
+    void documentNamesEveryKey();
+    void onlyTheServiceIsExported();
+};
+
+void tst_SkinShipped::lightServesBeforeAnyLoad()
+{
+    QCOMPARE(SkinLibrary::instance()->currentName(), QStringLiteral("light"));
+    QCOMPARE(SkinLibrary::instance()->problems().size(), 0);
+    const QJsonObject colours
+        = shippedSkinTable(QStringLiteral("light"))[QLatin1String("colours")].toObject();
+    QCOMPARE(SkinLibrary::instance()->colour(QStringLiteral("PopupClient")),
+             QColor(colours[QLatin1String("PopupClient")].toString()));
+    QVERIFY(!isEmpty(drawnFrame(QStringLiteral("logo"), 1, 0)));
+}
+
+void tst_SkinShipped::namesAreListed()
+{
+    QCOMPARE(SkinLibrary::instance()->names(), shippedSkins());
+}
+
+void tst_SkinShipped::loadsWithoutProblems_data()
+{
+    QTest::addColumn<QString>("skin");
+    for (const QString& skin : shippedSkins())
+        QTest::newRow(qUtf8Printable(skin)) << skin;
+}
+
+void tst_SkinShipped::loadsWithoutProblems()
+{
+    QFETCH(const QString, skin);
+    const MessageCapture log;
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    QCOMPARE(SkinLibrary::instance()->currentName(), skin);
+    QCOMPARE(SkinLibrary::instance()->problems().size(), 0);
+    QCOMPARE(log.lines(), QStringList());
+
+    // By its folder it is the same skin.
+    QVERIFY(SkinLibrary::instance()->load(QStringLiteral(TRADECONFIG_SKINS_DIR "/") + skin
+                                          + QLatin1Char('/')));
+    QCOMPARE(SkinLibrary::instance()->currentName(), skin);
+    QCOMPARE(SkinLibrary::instance()->problems().size(), 0);
+}
+
+template <std::size_t count> static void addRows(const SkinKeys::KeyInfo (&keys)[count])
+{
+    QTest::addColumn<QString>("skin");
+    QTest::addColumn<QString>("key");
+    for (const QString& skin : shippedSkins()) {
+        for (const SkinKeys::KeyInfo& info : keys)
+            QTest::addRow("%s %s", qUtf8Printable(skin), info.name)
+                << skin << QString::fromLatin1(info.name);
+    }
+}
+
+void tst_SkinShipped::everyColour_data() { addRows(SkinKeys::colours); }
+
+void tst_SkinShipped::everyColour()
+{
+    QFETCH(const QString, skin);
+    QFETCH(const QString, key);
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    const QColor expected(
+        shippedSkinTable(skin)[QLatin1String("colours")].toObject()[key].toString());
+    QVERIFY(expected.isValid());
+
+    const MessageCapture log;
+    QImage image = canvas(3, 1);
+    {
+        QPainter painter(&image);
+        CSkin::Instance()->fillRect(painter, QRectF(1, 0, 1, 1), key);
+    }
+    QCOMPARE(image.pixelColor(1, 0), expected);
+    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
+    QCOMPARE(SkinLibrary::instance()->colour(key), expected);
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_SkinShipped::everyFont_data() { addRows(SkinKeys::fonts); }
+
+void tst_SkinShipped::everyFont()
+{
+    QFETCH(const QString, skin);
+    QFETCH(const QString, key);
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    const QJsonObject entry
+        = shippedSkinTable(skin)[QLatin1String("fonts")].toObject()[key].toObject();
+
+    const MessageCapture log;
+    QFont font;
+    QStringList families;
+    for (const QJsonValue& family : entry[QLatin1String("families")].toArray())
+        families << family.toString();
+    font.setFamilies(families);
+    font.setPixelSize(entry[QLatin1String("pixelSize")].toInt());
+    font.setWeight(entry[QLatin1String("weight")].toInt() == 600 ? QFont::DemiBold : QFont::Normal);
+    const QImage device = canvas(1, 1);
+    const QSizeF size = CSkin::Instance()->textSize(const_cast<QImage*>(&device), key,
+                                                    QStringLiteral("系统设置 Kivo 12.5"));
+    QCOMPARE(size, QFontMetricsF(font, &device).size(0, QStringLiteral("系统设置 Kivo 12.5")));
+    // The navigation list draws into rows of 20.
+    QVERIFY2(size.height() <= 20.0, qPrintable(QString::number(size.height())));
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_SkinShipped::everyImage_data() { addRows(SkinKeys::images); }
+
+void tst_SkinShipped::everyImage()
+{
+    QFETCH(const QString, skin);
+    QFETCH(const QString, key);
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    const QJsonObject entry
+        = shippedSkinTable(skin)[QLatin1String("images")].toObject()[key].toObject();
+    const bool windowButton = key.startsWith(QLatin1String("win_"));
+    const int frames = windowButton ? 3 : 1;
+
+    const MessageCapture log;
+    QCOMPARE(CSkin::Instance()->GetBitmapSize(key),
+             QSizeF(entry[QLatin1String("size")][0].toDouble(),
+                    entry[QLatin1String("size")][1].toDouble()));
+    QVector<QImage> drawn;
+    for (int index = 0; index < frames; ++index) {
+        drawn << drawnFrame(key, frames, index);
+        QVERIFY2(!isEmpty(drawn.last()), qPrintable(QString::number(index)));
+        for (int earlier = 0; earlier < index; ++earlier)
+            QVERIFY(drawn.at(earlier) != drawn.last());
+    }
+    QCOMPARE(log.lines(), QStringList());
+}
+
+void tst_SkinShipped::builtInLightIsTheShippedOne()
+{
+    const QString root = QStringLiteral(TRADECONFIG_SKINS_DIR "/light/");
+    QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories);
+    int count = 0;
+    while (files.hasNext()) {
+        QFile shipped(files.next());
+        QFile builtIn(QStringLiteral(":/libskin/skins/light/")
+                      + shipped.fileName().mid(root.size()));
+        QVERIFY(shipped.open(QIODevice::ReadOnly));
+        QVERIFY2(builtIn.open(QIODevice::ReadOnly), qPrintable(builtIn.fileName()));
+        QCOMPARE(builtIn.readAll(), shipped.readAll());
+        ++count;
+    }
+    QCOMPARE(count, 6);
+}
+
+void tst_SkinShipped::paletteFollowsTheTable_data() { loadsWithoutProblems_data(); }
+
+void tst_SkinShipped::paletteFollowsTheTable()
+{
+    QFETCH(const QString, skin);
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    const QJsonObject entries = shippedSkinTable(skin)[QLatin1String("palette")].toObject();
+    const QJsonObject disabled
+        = shippedSkinTable(skin)[QLatin1String("disabledPalette")].toObject();
+    const QPalette palette = SkinLibrary::instance()->palette();
+    QCOMPARE(entries.size(), 20);
+    QCOMPARE(palette.color(QPalette::Window), QColor(entries[QLatin1String("Window")].toString()));
+    QCOMPARE(palette.color(QPalette::Inactive, QPalette::Base),
+             QColor(entries[QLatin1String("Base")].toString()));
+    QCOMPARE(palette.color(QPalette::Highlight),
+             QColor(entries[QLatin1String("Highlight")].toString()));
+    QCOMPARE(palette.color(QPalette::ToolTipText),
+             QColor(entries[QLatin1String("ToolTipText")].toString()));
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::ButtonText),
+             QColor(disabled[QLatin1String("ButtonText")].toString()));
+    QVERIFY(palette.color(QPalette::Disabled, QPalette::ButtonText)
+            != palette.color(QPalette::ButtonText));
+}
+
+void tst_SkinShipped::textIsReadable_data()
+{
+    QTest::addColumn<QString>("skin");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("ground");
+    const char* const pairs[][2] = {
+        {"SwitchFgNormal", "SwitchBgNormal"},
+        {"SwitchFgHover", "SwitchBgHover"},
+        {"SwitchFgSelect", "SwitchBgSelect"},
+        {"SwitchFgNormal", "SwitchBackground"},
+        {"SwitchFgNormal", "FrameClient"},
+        {"NavSwitchFgNormal", "NavSwitchBgNormal"},
+        {"NavSwitchFgHover", "NavSwitchBgHover"},
+        {"NavSwitchFgSelect", "NavSwitchBgSelect"},
+        {"NavSwitchFgNormal", "NavSwitchBg"},
+        {"NavSwitchFgNormal", "NavSwitchBorder"},
+        {"NavSwitchFgNormal", "NavSwitchBgHover"},
+        {"NavSwitchFgSelect", "Window"},
+        {"WindowText", "Window"},
+        {"WindowText", "PopupClient"},
+        {"WindowText", "PopupCaption"},
+        {"WindowText", "FrameCaption"},
+        {"Text", "Base"},
+        {"Text", "AlternateBase"},
+        {"ButtonText", "Button"},
+        {"HighlightedText", "Highlight"},
+        {"Link", "Window"},
+        {"ToolTipText", "ToolTipBase"},
+    };
+    for (const QString& skin : shippedSkins()) {
+        for (const auto& pair : pairs)
+            QTest::addRow("%s: %s on %s", qUtf8Printable(skin), pair[0], pair[1])
+                << skin << QString::fromLatin1(pair[0]) << QString::fromLatin1(pair[1]);
+    }
+}
+
+void tst_SkinShipped::textIsReadable()
+{
+    QFETCH(const QString, skin);
+    QFETCH(const QString, text);
+    QFETCH(const QString, ground);
+    const QJsonObject table = shippedSkinTable(skin);
+    const auto colour = [&table](const QString& key) {
+        const QString own = table[QLatin1String("colours")].toObject()[key].toString();
+        return QColor(own.isEmpty() ? table[QLatin1String("palette")].toObject()[key].toString()
+                                    : own);
+    };
+    const double ratio = contrast(colour(text), colour(ground));
+    QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
+}
+
+void tst_SkinShipped::documentNamesEveryKey()
+{
+    QFile document(QStringLiteral(TRADECONFIG_DOCS_DIR "/skin-format.md"));
+    QVERIFY(document.open(QIODevice::ReadOnly));
+    QStringList documented;
+    while (!document.atEnd()) {
+        const QString line = QString::fromUtf8(document.readLine()).trimmed();
+        for (const char* kind : {"` | colour |", "` | font |", "` | image |"}) {
+            if (line.startsWith(QLatin1String("| `")) && line.contains(QLatin1String(kind)))
+                documented << line;
+        }
+    }
+    QStringList known;
+    const auto add = [&known](const auto& keys, const char* kind) {
+        for (const SkinKeys::KeyInfo& info : keys)
+            known << QString::asprintf("| `%s` | %s | %s | %s |", info.name, kind, info.passedBy,
+                                       info.role);
+    };
+    add(SkinKeys::colours, "colour");
+    add(SkinKeys::fonts, "font");
+    add(SkinKeys::images, "image");
+    QCOMPARE(documented, known);
+}
+
+void tst_SkinShipped::onlyTheServiceIsExported()
+{
+    QProcess nm;
+    nm.start(QStringLiteral("nm"),
+             {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("-C"),
+              QStringLiteral(SKIN_LIBRARY_FILE)});
+    if (!nm.waitForStarted())
+        QSKIP("no nm on this machine");
+    QVERIFY(nm.waitForFinished());
+    QCOMPARE(nm.exitCode(), 0);
+
+    const QString service = QStringLiteral("CorvelSkin::CSkin::");
+    QSet<QString> operations;
+    for (const QString& line :
+         QString::fromUtf8(nm.readAllStandardOutput()).split(QLatin1Char('\n'))) {
+        const QString symbol = line.mid(line.indexOf(QLatin1Char(' '), 18) + 1);
+        if (symbol.isEmpty())
+            continue;
+        QVERIFY2(symbol.contains(QLatin1String("CorvelSkin::")), qPrintable(line));
+        if (symbol.startsWith(service))
+            operations.insert(symbol.mid(service.size()));
+    }
+    const QSet<QString> expected{
+        QStringLiteral("Instance()"),
+        QStringLiteral("fillRect(QPainter&, QRectF, QString)"),
+        QStringLiteral("drawRect(QPainter&, QRectF, QString, Qt::PenStyle, double)"),
+        QStringLiteral("drawLine(QPainter&, QString, QPointF, QPointF, Qt::PenStyle, double)"),
+        QStringLiteral("drawText(QPainter&, QRectF, int, QString, QString, QString)"),
+        QStringLiteral("textSize(QPaintDevice*, QString, QString)"),
+        QStringLiteral("drawImage(QPainter&, QRectF, QString, int, int, bool, bool)"),
+        QStringLiteral("GetBitmapSize(QString)"),
+    };
+    QCOMPARE(operations, expected);
+}
+
+TRADECONFIG_TEST_MAIN(tst_SkinShipped)
+#include "tst_SkinShipped.moc"
