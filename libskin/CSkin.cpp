@@ -22,22 +22,28 @@ bool isWhole(double value) { return value == std::floor(value); }
  * 0 if it is not.
  *
  * Filling bands is many times cheaper than stroking. It comes to the same for a painter that
- * draws aliased, at a whole-numbered scale, with corners on the pixel grid.
+ * draws aliased, at a whole-numbered scale, with corners on the pixel grid. Outlines that leave
+ * the device, and those without an inside, are stroked with corners of their own.
  */
 int scaleOfBands(const QPainter& painter, const QRectF& rect)
 {
     const QPaintEngine* const engine = painter.paintEngine();
-    if (!engine || engine->type() != QPaintEngine::Raster
+    if (!engine || engine->type() != QPaintEngine::Raster || !engine->paintDevice()
         || painter.testRenderHint(QPainter::Antialiasing))
         return 0;
     const QTransform& transform = painter.deviceTransform();
     const double scale = transform.m11();
-    const bool fits = transform.type() <= QTransform::TxScale && scale == transform.m22()
-        && isWhole(scale) && scale >= 1.0 && scale <= 16.0 && rect.width() >= 1.0
-        && rect.height() >= 1.0 && isWhole(rect.x() * scale + transform.dx())
-        && isWhole(rect.y() * scale + transform.dy()) && isWhole(rect.width() * scale)
-        && isWhole(rect.height() * scale);
-    return fits ? int(scale) : 0;
+    if (transform.type() > QTransform::TxScale || scale != transform.m22() || !isWhole(scale)
+        || scale < 1.0 || scale > 16.0 || rect.width() < 2.0 || rect.height() < 2.0)
+        return 0;
+    const QRectF onDevice(rect.x() * scale + transform.dx(), rect.y() * scale + transform.dy(),
+                          rect.width() * scale, rect.height() * scale);
+    const bool onGrid = isWhole(onDevice.x()) && isWhole(onDevice.y()) && isWhole(onDevice.width())
+        && isWhole(onDevice.height());
+    const QPaintDevice& device = *engine->paintDevice();
+    const bool inside = scale > 1.0
+        || QRectF(0.0, 0.0, device.width() - 1, device.height() - 1).contains(onDevice);
+    return onGrid && inside ? int(scale) : 0;
 }
 
 void fillBands(QPainter& painter, const QRectF& rect, int scale, const QColor& colour)
