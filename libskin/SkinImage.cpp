@@ -29,15 +29,20 @@ bool readFile(const QString& path, QByteArray& bytes, QString& reason)
     return true;
 }
 
-/// Null if @p bytes are no bitmap, or one whose sides are beyond reason.
-QImage decode(QByteArray bytes)
+/// Null, and a @p reason, if @p bytes are no bitmap or one whose sides are beyond reason.
+QImage decode(QByteArray bytes, QString& reason)
 {
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "png");
     const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > maxBitmapSide || size.height() > maxBitmapSide)
+    if (size.width() > maxBitmapSide || size.height() > maxBitmapSide) {
+        reason = QStringLiteral("the bitmap is larger than %1 pixels a side").arg(maxBitmapSide);
         return QImage();
-    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    }
+    const QImage bitmap = reader.read();
+    if (bitmap.isNull())
+        reason = QStringLiteral("not a PNG bitmap");
+    return bitmap.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 } // namespace
@@ -90,11 +95,9 @@ bool SkinImage::readDrawing(const QByteArray& bytes, QString& reason)
 
 bool SkinImage::readBitmaps(const QString& path, const QByteArray& bytes, QString& reason)
 {
-    const QImage bitmap = decode(bytes);
-    if (bitmap.isNull()) {
-        reason = QStringLiteral("not a PNG bitmap");
+    const QImage bitmap = decode(bytes, reason);
+    if (bitmap.isNull())
         return false;
-    }
     m_bitmaps.append(bitmap);
     m_size = bitmap.size();
 
@@ -107,9 +110,9 @@ bool SkinImage::readBitmaps(const QString& path, const QByteArray& bytes, QStrin
             continue;
         if (!readFile(denser, denserBytes, reason))
             return false;
-        m_bitmaps.append(decode(denserBytes));
+        m_bitmaps.append(decode(denserBytes, reason));
         if (m_bitmaps.last().isNull()) {
-            reason = QStringLiteral("%1 is not a PNG bitmap").arg(QFileInfo(denser).fileName());
+            reason = QFileInfo(denser).fileName() + QStringLiteral(": ") + reason;
             return false;
         }
     }
