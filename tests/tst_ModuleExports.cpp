@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 
 #include <QLibrary>
+#include <QLineEdit>
 #include <QProcess>
 #include <memory>
 
