@@ -1190,38 +1190,115 @@ private Q_SLOTS:
         QCOMPARE(repainted([&] { bar.DoClickItem(); }), 0);
     }
 
-    // What the layout remembers must not outlive what it was made for.
+    // What the layout remembers must not outlive what it was made for: with enough items that
+    // one more is placed beside them.
     void addingAfterStateChangedBehindTheLayout()
     {
-        Bar bar(Qt::Horizontal, QSize(300, 40));
-        bar.setItemSize(50);
-        bar.add(3);
+        Bar bar(Qt::Horizontal, QSize(600, 40));
+        bar.setItemSize(10);
+        bar.add(50);
+        QVERIFY(!bar.moreShown);
         bar.orientation = Qt::Vertical;
         bar.add(1);
         QVERIFY(bar.moreShown);
-        QCOMPARE(bar.moreRect, QRectF(0, 2, 300, 38));
+        QCOMPARE(bar.moreRect, QRectF(0, 2, 600, 38));
 
-        Bar other(Qt::Horizontal, QSize(300, 40));
-        other.setItemSize(50);
-        other.add(3);
-        other.ReLayoutSwitch();
-        QCOMPARE(other.items[2]->rect, QRectF(200, 0, 100, 40));
+        Bar other(Qt::Horizontal, QSize(550, 40));
+        other.setItemSize(10);
+        other.add(49);
+        other.mode = CSwitchEx::ModeSwitch;
+        other.ReLayout();
+        other.mode = CSwitchEx::ModeButton;
+        QCOMPARE(other.items[48]->rect.right(), 550.0);
         other.add(1);
-        // 300 + 50 by then.
         QVERIFY(other.moreShown);
-        QCOMPARE(other.visibleCount, 2);
+        QCOMPARE(other.visibleCount, 45);
 
         // A hidden bar learns of its new size by the next layout.
-        Bar hidden(Qt::Horizontal, QSize(300, 40));
-        hidden.setItemSize(100);
-        hidden.add(2);
+        Bar hidden(Qt::Horizontal, QSize(600, 40));
+        hidden.setItemSize(10);
+        hidden.add(50);
         hidden.hide();
-        hidden.resize(200, 40);
+        hidden.resize(500, 50);
         QVERIFY(!hidden.moreShown);
         const auto end = hidden.add(1, "e", true);
-        QCOMPARE(end[0]->rect, QRectF(100, 0, 100, 40));
-        QCOMPARE(hidden.moreRect, QRectF(62, 0, 38, 40));
-        QCOMPARE(hidden.visibleCount, 0);
+        QCOMPARE(end[0]->rect, QRectF(490, 0, 10, 50));
+        QCOMPARE(hidden.moreRect, QRectF(452, 0, 38, 50));
+        QCOMPARE(hidden.visibleCount, 45);
+
+        // After clearing nothing is remembered.
+        Bar cleared(Qt::Horizontal, QSize(600, 40));
+        cleared.setItemSize(10);
+        cleared.add(50);
+        cleared.ClearAll();
+        cleared.add(40);
+        QCOMPARE(cleared.items[39]->rect, QRectF(390, 0, 10, 40));
+        QCOMPARE(cleared.visibleCount, 40);
+    }
+
+    void aCellChangedFromOutsideCountsInTheNextLayout()
+    {
+        Bar bar(Qt::Horizontal, QSize(600, 40));
+        bar.setItemSize(100);
+        bar.add(2);
+        bar.items[0]->rect.setWidth(150);
+        QCOMPARE(bar.add(1)[0]->rect, QRectF(250, 0, 100, 40));
+        bar.items[0]->rect.setWidth(500);
+        bar.add(1);
+        QVERIFY(bar.moreShown);
+        QCOMPARE(bar.visibleCount, 1);
+    }
+
+    // Forty items of 10 pixels and what one more does beside them.
+    void oneMoreBesideMany()
+    {
+        Bar bar(Qt::Horizontal, QSize(500, 40));
+        bar.setItemSize(10);
+        bar.add(40);
+        QCOMPARE(bar.add(1)[0]->rect, QRectF(400, 0, 10, 40));
+        QCOMPARE(bar.visibleCount, 41);
+        QCOMPARE(bar.add(1, "e", true)[0]->rect, QRectF(490, 0, 10, 40));
+        QCOMPARE(bar.add(1, "e", true)[0]->rect, QRectF(480, 0, 10, 40));
+        QCOMPARE(bar.visibleCount, 41);
+        bar.add(7);
+        QVERIFY(!bar.moreShown);
+        QCOMPARE(bar.visibleCount, 48);
+        // 500 are full: the next main item is one too many, 442 are left.
+        QCOMPARE(bar.add(1)[0]->rect, QRectF(0, 0, 10, 40));
+        QVERIFY(bar.moreShown);
+        QCOMPARE(bar.moreRect, QRectF(442, 0, 38, 40));
+        QCOMPARE(bar.visibleCount, 44);
+        QCOMPARE(bar.add(1)[0]->rect, QRectF(0, 0, 10, 40));
+        QCOMPARE(bar.visibleCount, 44);
+        // End items push the buttons and what is shown back.
+        QCOMPARE(bar.add(1, "e", true)[0]->rect, QRectF(470, 0, 10, 40));
+        QCOMPARE(bar.moreRect, QRectF(432, 0, 38, 40));
+        QCOMPARE(bar.visibleCount, 43);
+        bar.setItemSize(0);
+        QCOMPARE(bar.visibleCount, 6); // measured: 50 each, 312 before the buttons
+
+        // Scrolled to the end with room left, one more is shown at once, then no more.
+        Bar scrolled(Qt::Horizontal, QSize(138, 40));
+        scrolled.setItemSize(30);
+        scrolled.add(39);
+        for (int i = 0; i < 36; ++i)
+            scrolled.DoClickMoreItem(false);
+        QCOMPARE(scrolled.firstIndex, 36);
+        QCOMPARE(scrolled.visibleCount, 3);
+        const auto separator = scrolled.AddSeparator(9);
+        QCOMPARE(separator->rect, QRectF(90, 0, 9, 40));
+        QCOMPARE(scrolled.visibleCount, 4);
+        QCOMPARE(scrolled.AddSeparator(2)->rect, QRectF(0, 0, 2, 40));
+        QCOMPARE(scrolled.visibleCount, 4);
+        QCOMPARE(scrolled.firstIndex, 36);
+        // Exactly to the buttons.
+        Bar exact(Qt::Horizontal, QSize(138, 40));
+        exact.setItemSize(30);
+        exact.add(39);
+        for (int i = 0; i < 36; ++i)
+            exact.DoClickMoreItem(false);
+        QCOMPARE(exact.AddSeparator(10)->rect, QRectF(90, 0, 10, 40));
+        QCOMPARE(exact.visibleCount, 4);
     }
 
     void fillingABarTakesLinearTime_data()

@@ -24,6 +24,7 @@ namespace {
 constexpr double moreLength = 38; // both scroll buttons together, along the bar
 constexpr double textExtraWidth = 30; // of a text item in a horizontal bar
 constexpr double textExtraHeight = 10; // of a text item in a vertical bar
+constexpr int fewItems = 32; // are walked each time: cells changed from outside then count too
 constexpr double tolerance = 1e-6; // lengths closer than this may be equal but for rounding
 
 } // namespace
@@ -190,7 +191,6 @@ void CSwitchEx::ClearAll()
     curSel = nullptr;
     moreShown = false;
     moreRect = QRectF();
-    laidOut.reset();
     update();
 }
 
@@ -316,6 +316,8 @@ CSwitchEx::LayoutState CSwitchEx::CurrentState() const
 // others may move or rounding could decide.
 bool CSwitchEx::LayOutAppended(bool atEnd)
 {
+    if (items.size() + endItems.size() <= fewItems)
+        return false;
     LayoutState before = CurrentState();
     --(atEnd ? before.endCount : before.mainCount);
     if (!laidOut || !(*laidOut == before))
