@@ -79,8 +79,8 @@ void tst_Restart::makeProgram() const
     QFile file(m_program);
     QVERIFY(file.open(QIODevice::WriteOnly));
     const QString text
-        = QStringLiteral("#!/bin/sh\n{ pwd; printf '%s\\n' \"$@\"; } > '%1.tmp'\n"
-                         "mv '%1.tmp' '%1'\n")
+        = QStringLiteral("#!/bin/sh\n{ pwd; printf '%s\\n' \"$@\"; } > '%1'.$$\n"
+                         "mv '%1'.$$ '%1'\n")
               .replace(QStringLiteral("%1"), m_home->filePath(QStringLiteral("ran")));
     file.write(text.toLocal8Bit());
     QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
