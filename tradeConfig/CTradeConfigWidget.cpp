@@ -459,6 +459,8 @@ void CTradeConfigWidget::beginRiseEdit(const RisePrice& price, QString& text)
     combo.setEditable(true);
     // A percentage that nobody typed must not be stored.
     combo.setCompleter(nullptr);
+    // Nor must Return move to another entry that already holds the percentage typed.
+    disconnect(combo.lineEdit(), &QLineEdit::editingFinished, &combo, nullptr);
     // Before the button is disabled: a disabled button hands its focus to the next widget, and
     // a field that is only passed by would be checked when it loses it again.
     combo.setFocus();

@@ -1,0 +1,1132 @@
+#include "support/FakeTrade.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+#include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/TipLabel.h"
+
+#include <QIntValidator>
+
+#include <memory>
+
+namespace {
+
+const QString red = QStringLiteral("color:red");
+const QString green = QStringLiteral("color:green");
+const QString belowMinimum = QStringLiteral("不能小于100股");
+const QString upperTooSmall = QStringLiteral("上限不能小于下限或递减数量");
+const QString aboveUpper = QStringLiteral("不能大于上限");
+
+enum Field { Base, Upper, Lower, Decrement };
+
+/// One group of splitting settings as the form names it.
+struct Group {
+    const char* name;
+    int page;
+    const char* edits[4];
+    const char* lowerLabel;
+    const char* decrementLabel;
+    const char* strategy;
+    const char* enabled;
+    int randomStrategy; ///< shows the lower limit
+    int decreasingStrategy; ///< shows the decrement
+    std::int32_t TradeParm::*enabledValue;
+    std::int32_t TradeParm::*strategyValue;
+    std::int32_t TradeParm::*values[4];
+};
+
+const Group groups[] = {
+    {"stock",
+     2,
+     {"lineEdit_trade_baseCount", "lineEdit_trade_high", "lineEdit_trade_low",
+      "lineEdit_trade_desc"},
+     "label_trade_low",
+     "label_trade_desc",
+     "comboBox_trade_split",
+     "checkBox_trade_fc",
+     1,
+     2,
+     &TradeParm::splitEnabled,
+     &TradeParm::splitStrategy,
+     {&TradeParm::splitBaseQty, &TradeParm::splitMaxQty, &TradeParm::splitMinQty,
+      &TradeParm::splitStepQty}},
+    {"STAR",
+     3,
+     {"lineEdit_trade_kc_baseCount", "lineEdit_trade_kc_high", "lineEdit_trade_kc_low",
+      "lineEdit_trade_kc_desc"},
+     "label_trade_kc_low",
+     "label_trade_kc_desc",
+     "comboBox_trade_kc_split",
+     "checkBox_trade_kc_fc",
+     3,
+     4,
+     &TradeParm::starSplitEnabled,
+     &TradeParm::starSplitStrategy,
+     {&TradeParm::starSplitBaseQty, &TradeParm::starSplitMaxQty, &TradeParm::starSplitMinQty,
+      &TradeParm::starSplitStepQty}},
+};
+
+/// The dialog, shown on the page of one group.
+struct Session {
+    explicit Session(int groupIndex, int strategy = 0, int base = 1000, int upper = 500,
+                     int lower = 200, int decrement = 200)
+        : group(groups[groupIndex])
+    {
+        trade.setDistinctShortcuts();
+        TradeParm& parm = trade.parm();
+        parm.*group.enabledValue = 1;
+        parm.*group.strategyValue = strategy;
+        const int values[] = {base, upper, lower, decrement};
+        for (int field = 0; field < 4; ++field)
+            parm.*group.values[field] = values[field];
+        for (int item = 0; item < 3; ++item) {
+            parm.starBuyRiseChoices[item] = item + 1;
+            parm.starSellRiseChoices[item] = 10 * (item + 1);
+        }
+        widget = std::make_unique<CTradeConfigWidget>(&trade);
+        widget->SetCurrentIndex(1);
+        widget->ui.stackedWidget_trade->setCurrentIndex(group.page);
+        widget->show();
+        shown = activate();
+    }
+
+    /// Also after a modal box, which leaves no window active on the test platform.
+    bool activate() const
+    {
+        widget->activateWindow();
+        return QTest::qWaitForWindowActive(widget.get());
+    }
+
+    template <typename Widget = QWidget> Widget& find(const char* name) const
+    {
+        return *widget->findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    QLineEdit& edit(int field) const { return find<QLineEdit>(group.edits[field]); }
+    QString key(int field) const { return QString::fromLatin1(group.edits[field]); }
+    QComboBox& strategy() const { return find<QComboBox>(group.strategy); }
+    CTipLabel& tip() const { return *widget->tipLabel; }
+
+    /// Types @p text over what the field holds.
+    void type(int field, const QString& text) const
+    {
+        edit(field).setFocus();
+        QTest::keyClick(&edit(field), Qt::Key_A, Qt::ControlModifier);
+        if (text.isEmpty())
+            QTest::keyClick(&edit(field), Qt::Key_Delete);
+        else
+            QTest::keyClicks(&edit(field), text);
+    }
+
+    void leave() const { widget->ui.pushButton_confirm->setFocus(); }
+
+    void enter(int field, const QString& text) const
+    {
+        type(field, text);
+        leave();
+    }
+
+    /// 'r' red, 'g' green, '-' no mark, for base, upper, lower and decrement; and the same for
+    /// the validity entries: '1', '0', '-' none.
+    QString state() const
+    {
+        QString marks;
+        QString entries;
+        for (int field = 0; field < 4; ++field) {
+            const QString sheet = edit(field).styleSheet();
+            marks += sheet == red ? u'r' : sheet == green ? u'g' : sheet.isEmpty() ? u'-' : u'?';
+            const auto entry = widget->inputValidity.constFind(key(field));
+            entries += entry == widget->inputValidity.constEnd() ? u'-' : *entry ? u'1' : u'0';
+        }
+        return marks + u' ' + entries;
+    }
+
+    /// Whether lower limit and decrement rows are shown, each with its label.
+    QString rows() const
+    {
+        const auto shownRow = [this](int field, const char* label) {
+            const bool hidden = edit(field).isHidden();
+            return hidden != find(label).isHidden() ? u'?' : hidden ? u'-' : u's';
+        };
+        return QString(shownRow(Lower, group.lowerLabel))
+            + shownRow(Decrement, group.decrementLabel);
+    }
+
+    const Group& group;
+    FakeTrade trade;
+    std::unique_ptr<CTradeConfigWidget> widget;
+    bool shown = false;
+};
+
+/// One of the two protection prices.
+struct Rise {
+    explicit Rise(bool sell)
+        : session(1, 3)
+        , combo(session.find<QComboBox>(sell ? "comboBox_trade_kc_sellRise"
+                                             : "comboBox_trade_kc_buyRise"))
+        , button(
+              session.find<QPushButton>(sell ? "pushButton_kc_sellRise" : "pushButton_kc_buyRise"))
+        , text(sell ? session.widget->starSellRiseText : session.widget->starBuyRiseText)
+        , otherText(sell ? session.widget->starBuyRiseText : session.widget->starSellRiseText)
+        , first(sell ? QStringLiteral("10") : QStringLiteral("1"))
+        , second(sell ? QStringLiteral("20") : QStringLiteral("2"))
+        , third(sell ? QStringLiteral("30") : QStringLiteral("3"))
+        , choices(sell ? session.trade.parm().starSellRiseChoices
+                       : session.trade.parm().starBuyRiseChoices)
+    {
+    }
+
+    void begin() const { QTest::mouseClick(&button, Qt::LeftButton); }
+    void leave() const { session.leave(); }
+
+    void type(const QString& percent) const
+    {
+        QTest::keyClick(&combo, Qt::Key_A, Qt::ControlModifier);
+        if (percent.isEmpty())
+            QTest::keyClick(&combo, Qt::Key_Delete);
+        else
+            QTest::keyClicks(&combo, percent);
+    }
+
+    QStringList items() const
+    {
+        QStringList texts;
+        for (int item = 0; item < combo.count(); ++item)
+            texts << combo.itemText(item);
+        return texts;
+    }
+
+    Session session;
+    QComboBox& combo;
+    QPushButton& button;
+    QString& text;
+    QString& otherText;
+    QString first;
+    QString second;
+    QString third;
+    std::int32_t (&choices)[3];
+};
+
+QString number(int value) { return QString::number(value); }
+
+} // namespace
+
+class tst_SplitSettings : public QObject {
+    Q_OBJECT
+
+private slots:
+    void rules_data();
+    void rules();
+    void upperLimitSeesHiddenCompanions_data();
+    void upperLimitSeesHiddenCompanions();
+    void upperBelowMinimumRevealsNothing_data() { bothGroups(); }
+    void upperBelowMinimumRevealsNothing();
+    void lowerLimitSeesHiddenUpper_data() { bothGroups(); }
+    void lowerLimitSeesHiddenUpper();
+    void validUpperClearsALowerLimitOf50_data() { bothGroups(); }
+    void validUpperClearsALowerLimitOf50();
+    void validUpperClearsBoth_data() { bothGroups(); }
+    void validUpperClearsBoth();
+    void validUpperGivesNoNewEntries_data() { bothGroups(); }
+    void validUpperGivesNoNewEntries();
+    void validLowerClearsTheUpper_data() { bothGroups(); }
+    void validLowerClearsTheUpper();
+    void validDecrementClearsTheUpper_data() { bothGroups(); }
+    void validDecrementClearsTheUpper();
+    void validBaseClearsNothing_data() { bothGroups(); }
+    void validBaseClearsNothing();
+    void failingClearsNothing_data() { bothGroups(); }
+    void failingClearsNothing();
+    void groupsStandApart_data() { bothGroups(); }
+    void groupsStandApart();
+    void unknownNameClearsNothing();
+
+    void nothingWhileTyping_data() { bothGroups(); }
+    void nothingWhileTyping();
+    void unvisitedFieldsHaveNoEntry_data() { bothGroups(); }
+    void unvisitedFieldsHaveNoEntry();
+    void otherFieldsAreNotChecked();
+    void noEventIsConsumed();
+
+    void tipPlace_data();
+    void tipPlace();
+    void tipForNoWidget();
+    void tipIsReused_data() { bothGroups(); }
+    void tipIsReused();
+
+    void strategyRows_data();
+    void strategyRows();
+    void presets_data();
+    void presets();
+    void presetsKeepMarks();
+    void presetsWhileLoading_data();
+    void presetsWhileLoading();
+    void enabling_data() { bothGroups(); }
+    void enabling();
+
+    void riseStates_data() { bothPrices(); }
+    void riseStates();
+    void riseKeepsItsEntries_data();
+    void riseKeepsItsEntries();
+    void riseDoesNotComplete_data() { bothPrices(); }
+    void riseDoesNotComplete();
+    void riseOfAnotherEntryStays_data() { bothPrices(); }
+    void riseOfAnotherEntryStays();
+    void riseArrowsChooseAnother_data() { bothPrices(); }
+    void riseArrowsChooseAnother();
+    void riseValidator_data() { bothPrices(); }
+    void riseValidator();
+    void riseFocusOrder_data() { bothPrices(); }
+    void riseFocusOrder();
+    void riseLeavingUnedited_data() { bothPrices(); }
+    void riseLeavingUnedited();
+    void riseEmptyIsZero_data() { bothPrices(); }
+    void riseEmptyIsZero();
+    void risePopupEndsTheEditing_data() { bothPrices(); }
+    void risePopupEndsTheEditing();
+
+    void confirmRefusesInKeyOrder();
+
+private:
+    static void bothGroups();
+    static void bothPrices();
+};
+
+void tst_SplitSettings::bothGroups()
+{
+    QTest::addColumn<int>("group");
+    QTest::newRow("stock") << 0;
+    QTest::newRow("STAR") << 1;
+}
+
+void tst_SplitSettings::bothPrices()
+{
+    QTest::addColumn<bool>("sell");
+    QTest::newRow("buy") << false;
+    QTest::newRow("sell") << true;
+}
+
+void tst_SplitSettings::rules_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("decrement");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("tip");
+
+    const QString none;
+    for (int group = 0; group < 2; ++group) {
+        const auto row = [group](const char* name, Field field, int upper, int lower, int decrement,
+                                 const char* typed, const QString& tip) {
+            QTest::addRow("%s %s", groups[group].name, name)
+                << group << int(field) << upper << lower << decrement << QString::fromLatin1(typed)
+                << tip;
+        };
+        row("base empty", Base, 500, 200, 200, "", belowMinimum);
+        row("base 99", Base, 500, 200, 200, "99", belowMinimum);
+        row("base 100", Base, 500, 200, 200, "100", none);
+        row("base above all", Base, 500, 200, 200, "10000000", none);
+        row("base with leading zeros", Base, 500, 200, 200, "0099", belowMinimum);
+
+        row("upper empty", Upper, 500, 200, 200, "", belowMinimum);
+        row("upper 99", Upper, 500, 0, 0, "99", belowMinimum);
+        row("upper 99 below companions", Upper, 500, 200, 200, "99", belowMinimum);
+        row("upper 100", Upper, 500, 100, 100, "100", none);
+        row("upper equal to lower", Upper, 500, 300, 200, "300", none);
+        row("upper one less than lower", Upper, 500, 300, 200, "299", upperTooSmall);
+        row("upper one more than lower", Upper, 500, 300, 200, "301", none);
+        row("upper equal to decrement", Upper, 500, 200, 300, "300", none);
+        row("upper one less than decrement", Upper, 500, 200, 300, "299", upperTooSmall);
+        row("upper one more than decrement", Upper, 500, 200, 300, "301", none);
+        row("upper at the top", Upper, 500, 200, 200, "10000000", none);
+
+        row("lower empty", Lower, 500, 200, 200, "", belowMinimum);
+        row("lower 99", Lower, 500, 200, 200, "99", belowMinimum);
+        row("lower 99 above upper", Lower, 50, 200, 200, "99", belowMinimum);
+        row("lower 100", Lower, 500, 200, 200, "100", none);
+        row("lower equal to upper", Lower, 500, 200, 200, "500", none);
+        row("lower one less than upper", Lower, 500, 200, 200, "499", none);
+        row("lower one more than upper", Lower, 500, 200, 200, "501", aboveUpper);
+        row("lower at the top", Lower, 9999999, 200, 200, "10000000", aboveUpper);
+        row("lower beside a larger decrement", Lower, 500, 200, 9000, "500", none);
+
+        row("decrement empty", Decrement, 500, 200, 200, "", belowMinimum);
+        row("decrement 99", Decrement, 500, 200, 200, "99", belowMinimum);
+        row("decrement 100", Decrement, 500, 200, 200, "100", none);
+        row("decrement equal to upper", Decrement, 500, 200, 200, "500", none);
+        row("decrement one more than upper", Decrement, 500, 200, 200, "501", aboveUpper);
+        row("decrement at the top", Decrement, 10000000, 200, 200, "10000000", none);
+        row("decrement beside a larger lower", Decrement, 500, 9000, 200, "500", none);
+    }
+}
+
+void tst_SplitSettings::rules()
+{
+    QFETCH(int, group);
+    QFETCH(int, field);
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    QFETCH(int, decrement);
+    QFETCH(QString, typed);
+    QFETCH(QString, tip);
+    const Group& names = groups[group];
+    // A strategy that shows the field.
+    const int strategy = field == Decrement ? names.decreasingStrategy : names.randomStrategy;
+    const Session session(group, strategy, 1000, upper, lower, decrement);
+    QVERIFY(session.shown);
+
+    session.type(field, typed);
+    QCOMPARE(session.state(), QStringLiteral("---- ----"));
+    QVERIFY(session.tip().isHidden());
+    session.leave();
+
+    QString expected = QStringLiteral("---- ----");
+    expected[field] = tip.isEmpty() ? u'g' : u'r';
+    expected[5 + field] = tip.isEmpty() ? u'1' : u'0';
+    QCOMPARE(session.state(), expected);
+    QCOMPARE(session.edit(field).text(), typed);
+    QCOMPARE(session.tip().isHidden(), tip.isEmpty());
+    QCOMPARE(session.tip().text(), tip);
+    if (!tip.isEmpty())
+        QCOMPARE(session.tip().width(), tip == upperTooSmall ? 200 : 160);
+    const QString before = field == Decrement ? QStringLiteral("-s") : QStringLiteral("s-");
+    QCOMPARE(session.rows(), tip == upperTooSmall ? QStringLiteral("ss") : before);
+}
+
+void tst_SplitSettings::upperLimitSeesHiddenCompanions_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("decrement");
+    for (int group = 0; group < 2; ++group) {
+        QTest::addRow("%s lower", groups[group].name) << group << 401 << 100;
+        QTest::addRow("%s decrement", groups[group].name) << group << 100 << 401;
+        QTest::addRow("%s both", groups[group].name) << group << 401 << 401;
+    }
+}
+
+void tst_SplitSettings::upperLimitSeesHiddenCompanions()
+{
+    QFETCH(int, group);
+    QFETCH(int, lower);
+    QFETCH(int, decrement);
+    const Session session(group, 0, 1000, 500, lower, decrement);
+    QCOMPARE(session.rows(), QStringLiteral("--"));
+    session.enter(Upper, QStringLiteral("400"));
+    QCOMPARE(session.state(), QStringLiteral("-r-- -0--"));
+    QCOMPARE(session.tip().text(), upperTooSmall);
+    QCOMPARE(session.rows(), QStringLiteral("ss"));
+    QVERIFY(session.edit(Lower).isVisible());
+    QVERIFY(session.edit(Decrement).isVisible());
+    session.enter(Upper, QStringLiteral("401"));
+    QCOMPARE(session.state(), QStringLiteral("-g-- -1--"));
+    // The rows stay until a strategy is chosen.
+    QCOMPARE(session.rows(), QStringLiteral("ss"));
+}
+
+void tst_SplitSettings::upperBelowMinimumRevealsNothing()
+{
+    QFETCH(int, group);
+    const Session session(group, 0);
+    session.enter(Upper, QStringLiteral("99"));
+    QCOMPARE(session.state(), QStringLiteral("-r-- -0--"));
+    QCOMPARE(session.rows(), QStringLiteral("--"));
+}
+
+void tst_SplitSettings::lowerLimitSeesHiddenUpper()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy, 1000, 300, 200, 200);
+    session.edit(Upper).hide();
+    session.enter(Lower, QStringLiteral("301"));
+    QCOMPARE(session.state(), QStringLiteral("--r- --0-"));
+    QVERIFY(session.edit(Upper).isHidden());
+}
+
+void tst_SplitSettings::validUpperClearsALowerLimitOf50()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    session.enter(Lower, QStringLiteral("50"));
+    QCOMPARE(session.state(), QStringLiteral("--r- --0-"));
+    session.enter(Upper, QStringLiteral("400"));
+    QCOMPARE(session.state(), QStringLiteral("-gg- -11-"));
+    QCOMPARE(session.edit(Lower).text(), QStringLiteral("50"));
+    session.enter(Lower, QStringLiteral("50"));
+    QCOMPARE(session.state(), QStringLiteral("-gr- -10-"));
+}
+
+void tst_SplitSettings::validUpperClearsBoth()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy, 1000, 300, 200, 200);
+    session.enter(Lower, QStringLiteral("301"));
+    session.strategy().setCurrentIndex(groups[group].decreasingStrategy);
+    session.enter(Decrement, QStringLiteral("302"));
+    QCOMPARE(session.state(), QStringLiteral("--rr --00"));
+    session.enter(Upper, QStringLiteral("301"));
+    QCOMPARE(session.state(), QStringLiteral("-rrr -000"));
+    session.enter(Upper, QStringLiteral("302"));
+    QCOMPARE(session.state(), QStringLiteral("-ggg -111"));
+}
+
+void tst_SplitSettings::validUpperGivesNoNewEntries()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    session.enter(Upper, QStringLiteral("400"));
+    QCOMPARE(session.state(), QStringLiteral("-g-- -1--"));
+    // An entry that is true already is left alone, its mark too.
+    session.enter(Lower, QStringLiteral("400"));
+    session.edit(Lower).setStyleSheet(QString());
+    session.enter(Upper, QStringLiteral("401"));
+    QCOMPARE(session.state(), QStringLiteral("-g-- -11-"));
+}
+
+void tst_SplitSettings::validLowerClearsTheUpper()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy, 1000, 300, 300, 200);
+    session.enter(Upper, QStringLiteral("250"));
+    QCOMPARE(session.state(), QStringLiteral("-r-- -0--"));
+    session.enter(Lower, QStringLiteral("251"));
+    QCOMPARE(session.state(), QStringLiteral("-rr- -00-"));
+    session.enter(Lower, QStringLiteral("250"));
+    QCOMPARE(session.state(), QStringLiteral("-gg- -11-"));
+
+    // The decrement, revealed, still keeps the upper limit red; equality does not.
+    const Session other(group, groups[group].randomStrategy, 1000, 300, 300, 251);
+    other.enter(Upper, QStringLiteral("250"));
+    other.enter(Lower, QStringLiteral("250"));
+    QCOMPARE(other.state(), QStringLiteral("-rg- -01-"));
+    other.edit(Decrement).setText(QStringLiteral("250"));
+    other.enter(Lower, QStringLiteral("249"));
+    QCOMPARE(other.state(), QStringLiteral("-gg- -11-"));
+}
+
+void tst_SplitSettings::validDecrementClearsTheUpper()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].decreasingStrategy, 1000, 300, 200, 300);
+    session.enter(Upper, QStringLiteral("250"));
+    QCOMPARE(session.state(), QStringLiteral("-r-- -0--"));
+    session.enter(Decrement, QStringLiteral("250"));
+    QCOMPARE(session.state(), QStringLiteral("-g-g -1-1"));
+
+    const Session other(group, groups[group].decreasingStrategy, 1000, 300, 251, 300);
+    other.enter(Upper, QStringLiteral("250"));
+    other.enter(Decrement, QStringLiteral("250"));
+    QCOMPARE(other.state(), QStringLiteral("-r-g -0-1"));
+    other.edit(Lower).setText(QStringLiteral("250"));
+    other.enter(Decrement, QStringLiteral("100"));
+    QCOMPARE(other.state(), QStringLiteral("-g-g -1-1"));
+}
+
+void tst_SplitSettings::validBaseClearsNothing()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    session.enter(Upper, QStringLiteral("99"));
+    session.enter(Lower, QStringLiteral("98"));
+    session.enter(Base, QStringLiteral("5000"));
+    QCOMPARE(session.state(), QStringLiteral("grr- 100-"));
+}
+
+void tst_SplitSettings::failingClearsNothing()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    session.enter(Lower, QStringLiteral("50"));
+    session.enter(Upper, QStringLiteral("99"));
+    QCOMPARE(session.state(), QStringLiteral("-rr- -00-"));
+    session.enter(Base, QStringLiteral("1"));
+    QCOMPARE(session.state(), QStringLiteral("rrr- 000-"));
+}
+
+void tst_SplitSettings::groupsStandApart()
+{
+    QFETCH(int, group);
+    const Session session(group, 0);
+    for (const char* const name : groups[1 - group].edits)
+        session.widget->inputValidity.insert(QString::fromLatin1(name), false);
+    session.enter(Base, QStringLiteral("500"));
+    session.enter(Upper, QStringLiteral("400"));
+    for (const char* const name : groups[1 - group].edits) {
+        QCOMPARE(session.widget->inputValidity.value(QString::fromLatin1(name), true), false);
+        QCOMPARE(session.find(name).styleSheet(), QString());
+    }
+    QCOMPARE(session.find(groups[1 - group].lowerLabel).isHidden(), true);
+}
+
+void tst_SplitSettings::unknownNameClearsNothing()
+{
+    const Session session(0);
+    for (const Group& group : groups) {
+        for (const char* const name : group.edits)
+            session.widget->inputValidity.insert(QString::fromLatin1(name), false);
+    }
+    const auto before = session.widget->inputValidity;
+    for (const char* const name :
+         {"", "lineEdit_trade_baseCount", "lineEdit_trade_kc_baseCount", "stcokShortcut",
+          "lineEdit_system_lockTime", "LINEEDIT_TRADE_HIGH"})
+        session.widget->CheckSplitIsOk(QString::fromLatin1(name));
+    QCOMPARE(session.widget->inputValidity, before);
+}
+
+void tst_SplitSettings::nothingWhileTyping()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    for (const int field : {Base, Upper, Lower}) {
+        session.edit(field).setFocus();
+        session.edit(field).clear();
+        for (const char* const keys : {"5", "0", "0"}) {
+            QTest::keyClicks(&session.edit(field), QString::fromLatin1(keys));
+            QCOMPARE(session.edit(field).styleSheet(), QString());
+        }
+        QTest::keyClick(&session.edit(field), Qt::Key_Return);
+        QCOMPARE(session.edit(field).styleSheet(), QString());
+        QVERIFY(!session.widget->inputValidity.contains(session.key(field)));
+    }
+    QVERIFY(session.tip().isHidden());
+    // Neither does setting a text.
+    session.edit(Lower).setText(QStringLiteral("1"));
+    QVERIFY(!session.widget->inputValidity.contains(session.key(Lower)));
+}
+
+void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
+{
+    QFETCH(int, group);
+    Session session(group, 0, 1, 1, 1, 1);
+    QVERIFY(session.widget->inputValidity.isEmpty());
+    // Bad values that nobody visited do not stop a save.
+    session.widget->ui.pushButton_confirm->click();
+    QCOMPARE(session.trade.saves, 1);
+    QCOMPARE(session.trade.parm().*session.group.values[Upper], 1);
+}
+
+void tst_SplitSettings::otherFieldsAreNotChecked()
+{
+    const Session session(0);
+    session.widget->SetCurrentIndex(0);
+    QLineEdit& lockTime = *session.widget->ui.lineEdit_system_lockTime;
+    lockTime.setFocus();
+    lockTime.clear();
+    session.leave();
+    QVERIFY(session.widget->inputValidity.isEmpty());
+    QCOMPARE(lockTime.styleSheet(), QString());
+    QVERIFY(session.tip().isHidden());
+
+    // An object that the dialog never watched.
+    QLineEdit stranger;
+    stranger.setObjectName(QStringLiteral("lineEdit_trade_high"));
+    QFocusEvent out(QEvent::FocusOut);
+    QVERIFY(!session.widget->eventFilter(&stranger, &out));
+    QVERIFY(session.widget->inputValidity.isEmpty());
+}
+
+void tst_SplitSettings::noEventIsConsumed()
+{
+    const Session session(1, 3);
+    const auto types = {
+        QEvent::FocusIn,          QEvent::FocusOut,    QEvent::KeyPress,        QEvent::KeyRelease,
+        QEvent::MouseButtonPress, QEvent::Enter,       QEvent::Leave,           QEvent::Paint,
+        QEvent::InputMethod,      QEvent::ContextMenu, QEvent::ShortcutOverride};
+    QList<QObject*> watched;
+    for (const char* const name : groups[1].edits)
+        watched << &session.find(name);
+    watched << session.widget->ui.comboBox_trade_kc_buyRise
+            << session.widget->ui.comboBox_trade_kc_sellRise
+            << session.widget->ui.lineEdit_system_lockTime << session.widget.get();
+    for (QObject* const object : qAsConst(watched)) {
+        for (const QEvent::Type type : types) {
+            session.widget->inputValidity.clear();
+            QEvent event(type);
+            event.setAccepted(true);
+            QVERIFY(!session.widget->eventFilter(object, &event));
+            QVERIFY(event.isAccepted());
+            const bool checked = !session.widget->inputValidity.isEmpty();
+            QCOMPARE(checked,
+                     type == QEvent::FocusOut
+                         && object->objectName().startsWith(QStringLiteral("lineEdit_trade_kc_")));
+        }
+    }
+}
+
+void tst_SplitSettings::tipPlace_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("width");
+    for (int group = 0; group < 2; ++group) {
+        const char* const name = groups[group].name;
+        QTest::addRow("%s base", name) << group << int(Base) << "99" << 160;
+        QTest::addRow("%s upper", name) << group << int(Upper) << "99" << 160;
+        QTest::addRow("%s upper too small", name) << group << int(Upper) << "150" << 200;
+        QTest::addRow("%s lower", name) << group << int(Lower) << "99" << 160;
+        QTest::addRow("%s lower above upper", name) << group << int(Lower) << "501" << 160;
+        QTest::addRow("%s decrement", name) << group << int(Decrement) << "" << 160;
+    }
+}
+
+void tst_SplitSettings::tipPlace()
+{
+    QFETCH(int, group);
+    QFETCH(int, field);
+    QFETCH(QString, typed);
+    QFETCH(int, width);
+    const Group& names = groups[group];
+    const Session session(group,
+                          field == Decrement ? names.decreasingStrategy : names.randomStrategy);
+    const QRect place = session.edit(field).geometry();
+    QVERIFY(place.x() > 0 && place.width() >= 90 && place.height() >= 23);
+    session.enter(field, typed);
+    QVERIFY(session.tip().isVisible());
+    QCOMPARE(session.tip().parentWidget(), session.widget.get());
+    QCOMPARE(session.tip().geometry(),
+             QRect(place.x() + place.width() + 130, place.y() + 62, width, place.height()));
+    QCOMPARE(session.tip().styleSheet(), QStringLiteral("color:red;"));
+    // Nothing lies over it.
+    const QPoint middle = session.tip().geometry().center();
+    QCOMPARE(session.widget->childAt(middle), &session.tip());
+}
+
+void tst_SplitSettings::tipForNoWidget()
+{
+    const Session session(0);
+    QObject stranger;
+    session.widget->ShowInputErrorMsg(&stranger, QStringLiteral("x"), 160);
+    session.widget->ShowInputErrorMsg(nullptr, QStringLiteral("x"), 160);
+    QVERIFY(session.tip().isHidden());
+
+    QWidget field;
+    field.setGeometry(7, 11, 30, 40);
+    session.widget->ShowInputErrorMsg(&field, QStringLiteral("text"), 123);
+    QCOMPARE(session.tip().geometry(), QRect(167, 73, 123, 40));
+    QCOMPARE(session.tip().text(), QStringLiteral("text"));
+    QVERIFY(session.tip().isVisible());
+}
+
+void tst_SplitSettings::tipIsReused()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    session.enter(Base, QStringLiteral("1"));
+    const CTipLabel* const tip = session.widget->tipLabel;
+    session.enter(Lower, QStringLiteral("501"));
+    QCOMPARE(session.widget->tipLabel, tip);
+    QCOMPARE(session.widget->findChildren<CTipLabel*>().size(), 1);
+    QCOMPARE(tip->text(), aboveUpper);
+    // Accepting a value does not hide the tip early.
+    session.enter(Lower, QStringLiteral("500"));
+    QVERIFY(tip->isVisible());
+}
+
+void tst_SplitSettings::strategyRows_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("rows"); ///< from both shown, then from both hidden
+    const auto row = [](int group, int index, const char* rows) {
+        QTest::addRow("%s %d", groups[group].name, index)
+            << group << index << QString::fromLatin1(rows);
+    };
+    row(0, 0, "-- --");
+    row(0, 1, "s- s-");
+    row(0, 2, "-s -s");
+    row(0, 3, "ss --");
+    row(0, -1, "ss --");
+    row(0, 100, "ss --");
+    row(1, 0, "-- --");
+    row(1, 1, "-- --");
+    row(1, 2, "-- --");
+    row(1, 3, "s- s-");
+    row(1, 4, "-s -s");
+    row(1, 5, "-- --");
+    row(1, -1, "-- --");
+    row(1, 100, "-- --");
+}
+
+void tst_SplitSettings::strategyRows()
+{
+    QFETCH(int, group);
+    QFETCH(int, index);
+    QFETCH(QString, rows);
+    const Session session(group, groups[group].randomStrategy, 1234, 4321, 77, 88);
+    QString seen;
+    for (const bool visible : {true, false}) {
+        for (const int field : {Lower, Decrement})
+            session.edit(field).setVisible(visible);
+        session.find(session.group.lowerLabel).setVisible(visible);
+        session.find(session.group.decrementLabel).setVisible(visible);
+        if (group == 0)
+            session.widget->SelectFcSplit(index);
+        else
+            session.widget->SelectFcKcSplit(index);
+        seen += session.rows() + u' ';
+    }
+    QCOMPARE(seen.trimmed(), rows);
+    QCOMPARE(session.edit(Lower).text(), QStringLiteral("77"));
+    QCOMPARE(session.edit(Decrement).text(), QStringLiteral("88"));
+    const bool preset = group == 1 && index >= 0 && index <= 2;
+    QCOMPARE(session.edit(Base).text(), preset ? QStringLiteral("10000") : QStringLiteral("1234"));
+    if (!preset)
+        QCOMPARE(session.edit(Upper).text(), QStringLiteral("4321"));
+    QVERIFY(session.widget->inputValidity.isEmpty());
+}
+
+void tst_SplitSettings::presets_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("upper");
+    QTest::newRow("limit order") << 0 << "100000";
+    QTest::newRow("market order") << 1 << "50000";
+    QTest::newRow("after-hours fixed price") << 2 << "100000";
+}
+
+void tst_SplitSettings::presets()
+{
+    QFETCH(int, index);
+    const Session session(1, 3);
+    session.enter(Base, QStringLiteral("777"));
+    session.strategy().setCurrentIndex(index);
+    QCOMPARE(session.edit(Base).text(), QStringLiteral("10000"));
+    QTEST(session.edit(Upper).text(), "upper");
+    QCOMPARE(session.edit(Lower).text(), QStringLiteral("200"));
+    QCOMPARE(session.edit(Decrement).text(), QStringLiteral("200"));
+    QCOMPARE(session.rows(), QStringLiteral("--"));
+    // Choosing a strategy without a preset afterwards changes no text.
+    session.strategy().setCurrentIndex(4);
+    QCOMPARE(session.edit(Base).text(), QStringLiteral("10000"));
+    QTEST(session.edit(Upper).text(), "upper");
+}
+
+void tst_SplitSettings::presetsKeepMarks()
+{
+    const Session session(1, 3);
+    session.enter(Base, QStringLiteral("1"));
+    session.enter(Upper, QStringLiteral("2"));
+    QCOMPARE(session.state(), QStringLiteral("rr-- 00--"));
+    session.strategy().setCurrentIndex(1);
+    QCOMPARE(session.edit(Base).text(), QStringLiteral("10000"));
+    QCOMPARE(session.state(), QStringLiteral("rr-- 00--"));
+    {
+        const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
+        session.widget->ui.pushButton_confirm->click();
+    }
+    QCOMPARE(session.trade.saves, 0);
+    QVERIFY(session.activate());
+    // Visiting is enough: the preset is valid.
+    session.edit(Base).setFocus();
+    session.edit(Upper).setFocus();
+    session.leave();
+    QCOMPARE(session.state(), QStringLiteral("gg-- 11--"));
+    session.widget->ui.pushButton_confirm->click();
+    QCOMPARE(session.trade.saves, 1);
+}
+
+void tst_SplitSettings::presetsWhileLoading_data()
+{
+    QTest::addColumn<int>("strategy");
+    QTest::addColumn<QString>("base");
+    QTest::newRow("0") << 0 << "10000";
+    QTest::newRow("1") << 1 << "10000";
+    QTest::newRow("2") << 2 << "10000";
+    QTest::newRow("3") << 3 << "1234";
+    QTest::newRow("4") << 4 << "1234";
+}
+
+void tst_SplitSettings::presetsWhileLoading()
+{
+    QFETCH(int, strategy);
+    Session session(1, strategy, 1234, 4321, 77, 88);
+    QTEST(session.edit(Base).text(), "base");
+    QCOMPARE(session.edit(Upper).text(), QStringLiteral("4321"));
+    QCOMPARE(session.edit(Lower).text(), QStringLiteral("77"));
+    QCOMPARE(session.edit(Decrement).text(), QStringLiteral("88"));
+    session.widget->WriteAllParm();
+    QTEST(number(session.trade.parm().starSplitBaseQty), "base");
+    QCOMPARE(session.trade.parm().starSplitMaxQty, 4321);
+
+    const Session stock(0, strategy, 1234, 4321, 77, 88);
+    QCOMPARE(stock.edit(Base).text(), QStringLiteral("1234"));
+}
+
+void tst_SplitSettings::enabling()
+{
+    QFETCH(int, group);
+    const Session session(group, groups[group].randomStrategy);
+    auto& box = session.find<QCheckBox>(session.group.enabled);
+    session.enter(Upper, QStringLiteral("99"));
+    const QString state = session.state();
+    const auto enabled = [&session] {
+        QString flags;
+        for (int field = 0; field < 4; ++field)
+            flags += session.edit(field).isEnabled() ? u'1' : u'0';
+        return flags + (session.strategy().isEnabled() ? u'1' : u'0');
+    };
+    QVERIFY(box.isChecked());
+    QCOMPARE(enabled(), QStringLiteral("11111"));
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    QVERIFY(!box.isChecked());
+    QCOMPARE(enabled(), QStringLiteral("00000"));
+    // Labels, rows, marks and entries stay.
+    QVERIFY(session.find(session.group.lowerLabel).isEnabled());
+    QCOMPARE(session.rows(), QStringLiteral("s-"));
+    QCOMPARE(session.state(), state);
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    QCOMPARE(enabled(), QStringLiteral("11111"));
+
+    // The other group was not enabled by its record.
+    const Group& other = groups[1 - group];
+    for (const char* const name : other.edits)
+        QVERIFY(!session.find(name).isEnabled());
+    QVERIFY(!session.find(other.strategy).isEnabled());
+}
+
+void tst_SplitSettings::riseStates()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    QVERIFY(!rise.combo.isEditable());
+    QVERIFY(rise.button.isEnabled());
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
+
+    rise.combo.setCurrentIndex(1);
+    rise.begin();
+    QVERIFY(rise.combo.isEditable());
+    QVERIFY(!rise.button.isEnabled());
+    QVERIFY(rise.combo.hasFocus());
+    QCOMPARE(rise.text, rise.second);
+    QCOMPARE(rise.otherText, QString());
+
+    rise.type(QStringLiteral("47"));
+    QCOMPARE(rise.text, QStringLiteral("47"));
+    QCOMPARE(rise.otherText, QString());
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
+
+    rise.leave();
+    QVERIFY(!rise.combo.isEditable());
+    QVERIFY(rise.button.isEnabled());
+    QCOMPARE(rise.items(), QStringList({rise.first, QStringLiteral("47"), rise.third}));
+    QCOMPARE(rise.combo.currentIndex(), 1);
+    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+
+    rise.session.widget->WriteAllParm();
+    QCOMPARE(rise.choices[0], rise.first.toInt());
+    QCOMPARE(rise.choices[1], 47);
+    QCOMPARE(rise.choices[2], rise.third.toInt());
+}
+
+void tst_SplitSettings::riseKeepsItsEntries_data()
+{
+    QTest::addColumn<bool>("sell");
+    QTest::addColumn<QList<int>>("keys");
+    for (const bool sell : {false, true}) {
+        const char* const name = sell ? "sell" : "buy";
+        QTest::addRow("%s Return", name) << sell << QList<int>{Qt::Key_Return};
+        QTest::addRow("%s Enter", name) << sell << QList<int>{Qt::Key_Enter};
+        QTest::addRow("%s Return twice", name)
+            << sell << QList<int>{Qt::Key_Return, Qt::Key_Return};
+        QTest::addRow("%s Escape", name) << sell << QList<int>{Qt::Key_Escape};
+        QTest::addRow("%s Home, End", name) << sell << QList<int>{Qt::Key_Home, Qt::Key_End};
+        QTest::addRow("%s Left, Right", name) << sell << QList<int>{Qt::Key_Left, Qt::Key_Right};
+        QTest::addRow("%s letters", name) << sell << QList<int>{Qt::Key_X, Qt::Key_Minus};
+    }
+}
+
+void tst_SplitSettings::riseKeepsItsEntries()
+{
+    QFETCH(bool, sell);
+    QFETCH(QList<int>, keys);
+    const Rise rise(sell);
+    rise.begin();
+    rise.type(QStringLiteral("47"));
+    for (const int key : qAsConst(keys))
+        QTest::keyClick(&rise.combo, Qt::Key(key));
+    QCOMPARE(rise.combo.count(), 3);
+    QCOMPARE(rise.text, QStringLiteral("47"));
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({QStringLiteral("47"), rise.second, rise.third}));
+    QCOMPARE(rise.combo.currentIndex(), 0);
+}
+
+void tst_SplitSettings::riseDoesNotComplete()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    rise.combo.setItemText(1, QStringLiteral("88"));
+    rise.begin();
+    QTest::keyClick(&rise.combo, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&rise.combo, Qt::Key_8);
+    QCOMPARE(rise.combo.currentText(), QStringLiteral("8"));
+    QCOMPARE(rise.text, QStringLiteral("8"));
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({QStringLiteral("8"), QStringLiteral("88"), rise.third}));
+}
+
+void tst_SplitSettings::riseOfAnotherEntryStays()
+{
+    QFETCH(bool, sell);
+    // A percentage that another entry has too goes to the entry that is edited, with Return or
+    // without.
+    for (const bool withReturn : {false, true}) {
+        const Rise rise(sell);
+        rise.begin();
+        rise.type(rise.second);
+        if (withReturn)
+            QTest::keyClick(&rise.combo, Qt::Key_Return);
+        rise.leave();
+        QCOMPARE(rise.items(), QStringList({rise.second, rise.second, rise.third}));
+        QCOMPARE(rise.combo.currentIndex(), 0);
+    }
+}
+
+void tst_SplitSettings::riseArrowsChooseAnother()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    rise.begin();
+    QTest::keyClick(&rise.combo, Qt::Key_Down);
+    QCOMPARE(rise.combo.currentIndex(), 1);
+    QCOMPARE(rise.text, rise.second);
+    for (int press = 0; press < 3; ++press)
+        QTest::keyClick(&rise.combo, Qt::Key_Down);
+    QCOMPARE(rise.combo.currentIndex(), 2);
+    QCOMPARE(rise.text, rise.third);
+    for (int press = 0; press < 3; ++press)
+        QTest::keyClick(&rise.combo, Qt::Key_Up);
+    QCOMPARE(rise.combo.currentIndex(), 0);
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
+}
+
+void tst_SplitSettings::riseValidator()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    rise.begin();
+    const auto* const validator = qobject_cast<const QIntValidator*>(rise.combo.validator());
+    QVERIFY(validator);
+    QCOMPARE(validator->bottom(), 0);
+    QCOMPARE(validator->top(), 100);
+    QCOMPARE(validator->parent(), rise.session.widget.get());
+
+    rise.type(QStringLiteral("101"));
+    QCOMPARE(rise.text, QStringLiteral("10"));
+    rise.type(QStringLiteral("100"));
+    QCOMPARE(rise.text, QStringLiteral("100"));
+    rise.type(QStringLiteral("-5"));
+    QCOMPARE(rise.text, QStringLiteral("5"));
+    rise.type(QStringLiteral("0"));
+    QCOMPARE(rise.text, QStringLiteral("0"));
+    rise.leave();
+
+    rise.begin();
+    const auto* const next = qobject_cast<const QIntValidator*>(rise.combo.validator());
+    QVERIFY(next);
+    QVERIFY(next != validator);
+    QCOMPARE(next->parent(), rise.session.widget.get());
+}
+
+void tst_SplitSettings::riseFocusOrder()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    // Both ways to the button: a disabled button hands the focus on, and a field that only
+    // passes it along would be checked.
+    rise.begin();
+    QVERIFY(rise.combo.hasFocus());
+    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+    rise.leave();
+    rise.button.setFocus();
+    QTest::keyClick(&rise.button, Qt::Key_Space);
+    QVERIFY(rise.combo.isEditable());
+    QVERIFY(rise.combo.hasFocus());
+    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+    QVERIFY(rise.session.tip().isHidden());
+    // The other price did not enter its editing state.
+    QVERIFY(
+        rise.session.find(sell ? "pushButton_kc_buyRise" : "pushButton_kc_sellRise").isEnabled());
+}
+
+void tst_SplitSettings::riseLeavingUnedited()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    rise.text = QStringLiteral("stale");
+    rise.combo.setFocus();
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
+    QVERIFY(rise.button.isEnabled());
+    // And leaving at once stores what was there.
+    rise.begin();
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
+}
+
+void tst_SplitSettings::riseEmptyIsZero()
+{
+    QFETCH(bool, sell);
+    Rise rise(sell);
+    rise.combo.setCurrentIndex(2);
+    rise.begin();
+    rise.type(QString());
+    QCOMPARE(rise.text, QString());
+    rise.leave();
+    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, QString()}));
+    rise.session.widget->WriteAllParm();
+    QCOMPARE(rise.session.trade.saves, 1);
+    QCOMPARE(rise.choices[2], 0);
+}
+
+void tst_SplitSettings::risePopupEndsTheEditing()
+{
+    QFETCH(bool, sell);
+    const Rise rise(sell);
+    rise.begin();
+    rise.type(QStringLiteral("47"));
+    rise.combo.showPopup();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    rise.combo.hidePopup();
+    rise.leave();
+    QVERIFY(!rise.combo.isEditable());
+    QVERIFY(rise.button.isEnabled());
+    QCOMPARE(rise.items(), QStringList({QStringLiteral("47"), rise.second, rise.third}));
+}
+
+void tst_SplitSettings::confirmRefusesInKeyOrder()
+{
+    Session session(0);
+    session.enter(Upper, QStringLiteral("99"));
+    session.enter(Base, QStringLiteral("1000"));
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        QTest::ignoreMessage(
+            QtDebugMsg, QRegularExpression(QStringLiteral("lineEdit_trade_baseCount *: *true")));
+        QTest::ignoreMessage(QtDebugMsg,
+                             QRegularExpression(QStringLiteral("lineEdit_trade_high *: *false")));
+        const int gets = session.trade.gets;
+        const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
+        session.widget->ui.pushButton_confirm->click();
+        QCOMPARE(answer.title(), QStringLiteral("提示"));
+        QCOMPARE(answer.text(),
+                 QStringLiteral("存在不合理的修改参数\n"
+                                "请把红色标记的值修改为绿色标记后再次点击确定！"));
+        QCOMPARE(session.trade.gets, gets);
+        QCOMPARE(session.trade.saves, 0);
+        QVERIFY(session.widget->isVisible());
+    }
+    QVERIFY(session.activate());
+    session.enter(Upper, QStringLiteral("200"));
+    QCOMPARE(session.state(), QStringLiteral("gg-- 11--"));
+    session.widget->ui.pushButton_confirm->click();
+    QCOMPARE(session.trade.saves, 1);
+    QCOMPARE(session.trade.parm().splitMaxQty, 200);
+    QVERIFY(!session.widget->isVisible());
+}
+
+TRADECONFIG_TEST_MAIN(tst_SplitSettings)
+#include "tst_SplitSettings.moc"
