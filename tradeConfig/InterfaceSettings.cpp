@@ -4,7 +4,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryFile>
 
 namespace {
 
@@ -18,6 +20,17 @@ QString languageCode(int index)
 {
     const bool known = index > 0 && index < int(std::size(languageCodes));
     return QLatin1String(languageCodes[known ? index : 0]);
+}
+
+/// Whether a new version of the file can be written beside it. On a full disk QSettings puts a
+/// file cut short in the old one's place and reports success.
+bool directoryHasRoomFor(const QString& path)
+{
+    constexpr qint64 growth = 4096;
+    const QByteArray content(int(QFileInfo(path).size() + growth), '\0');
+    QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
+    return probe.open() && probe.write(content) == content.size() && probe.flush()
+        && probe.size() == content.size();
 }
 
 } // namespace
@@ -52,6 +65,9 @@ void save(int languageIndex, int scale)
 {
     const QString path = filePath();
     QSettings settings(path, QSettings::IniFormat);
+    // A value set in vain would be read back as long as this process lives.
+    if (!settings.isWritable() || !directoryHasRoomFor(path))
+        return;
     if (settings.status() == QSettings::FormatError)
         QFile::copy(path, path + QStringLiteral(".bad"));
     settings.setValue(languageKey(), languageCode(languageIndex));

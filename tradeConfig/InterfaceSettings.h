@@ -21,7 +21,8 @@ int languageIndex();
 /// Interface scale in percent as stored, not clamped; 0 when absent.
 int scale();
 
-/// Writes both values and forces the file to disk. A file that cannot be parsed is kept beside
+/// Writes both values and forces the file to disk; where that cannot work, for want of room or of
+/// leave, the file stays as it is. A file that cannot be parsed is kept beside
 /// the new one with ".bad" appended to its name.
 void save(int languageIndex, int scale);
 

@@ -1,0 +1,529 @@
+#include "support/FakeTrade.h"
+#include "support/TestMain.h"
+#include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/TableLineEdit.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QShortcut>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+namespace {
+
+QStringList seen;
+
+void recordMessage(QtMsgType, const QMessageLogContext&, const QString& text) { seen << text; }
+
+/// A dialog with buttons and a table that holds one key-capture editor with the focus.
+class Host : public QDialog {
+public:
+    Host()
+        : other(new QLineEdit(this))
+        , table(new QTableWidget(3, 3, this))
+        , button(new QPushButton(QStringLiteral("&Do"), this))
+        , editor(new CTableLineEdit(1))
+    {
+        auto* const column = new QVBoxLayout(this);
+        column->addWidget(other);
+        column->addWidget(table);
+        column->addWidget(button);
+        button->setDefault(true);
+        connect(button, &QPushButton::clicked, this, [this] { ++buttonClicks; });
+        connect(this, &QDialog::finished, this, [this] { ++ends; });
+        table->setCellWidget(1, 1, editor);
+        table->setCurrentCell(1, 1);
+        show();
+        activateWindow();
+        active = QTest::qWaitForWindowActive(this);
+        editor->setFocus();
+    }
+
+    QLineEdit* other;
+    QTableWidget* table;
+    QPushButton* button;
+    CTableLineEdit* editor;
+    bool active = false;
+    int buttonClicks = 0;
+    int ends = 0;
+};
+
+} // namespace
+
+class tst_TableLineEdit : public QObject {
+    Q_OBJECT
+
+private slots:
+    void construction();
+    void modifiers_data();
+    void modifiers();
+    void namedKeys_data();
+    void namedKeys();
+    void bareModifiers_data();
+    void bareModifiers();
+    void metaIsRefused_data();
+    void metaIsRefused();
+    void keypadIsIgnored_data();
+    void keypadIsIgnored();
+    void unknownKey();
+    void theTextOfTheEventDoesNotMatter();
+    void repeatedPress();
+    void disabledTakesNoKeys();
+
+    void windowShortcuts_data();
+    void windowShortcuts();
+    void keysOfDialogAndTable_data();
+    void keysOfDialogAndTable();
+    void tabMovesTheFocus_data();
+    void tabMovesTheFocus();
+    void shortcutsWorkWithoutTheFocus();
+
+    void noInputMethod();
+    void noPaste();
+    void noDrop();
+    void noMiddleButton();
+    void editFinishedReportsNothing();
+};
+
+void tst_TableLineEdit::construction()
+{
+    QWidget parent;
+    const auto* const editor = new CTableLineEdit(9, &parent);
+    QCOMPARE(editor->parentWidget(), &parent);
+    QCOMPARE(editor->row, 9);
+    QCOMPARE(editor->font().pointSize(), 11);
+    QCOMPARE(editor->text(), QString());
+    const CTableLineEdit alone(0);
+    QVERIFY(!alone.parentWidget());
+}
+
+void tst_TableLineEdit::modifiers_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+
+    const int shift = Qt::ShiftModifier;
+    const int control = Qt::ControlModifier;
+    const int alt = Qt::AltModifier;
+    const auto row = [](int key, int modifiers, const char* text) {
+        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+    };
+    row(Qt::Key_A, 0, "A");
+    row(Qt::Key_A, shift, "Shift+A");
+    row(Qt::Key_A, control, "Ctrl+A");
+    row(Qt::Key_A, alt, "Alt+A");
+    row(Qt::Key_A, control | shift, "Ctrl+Shift+A");
+    row(Qt::Key_A, alt | shift, "Alt+Shift+A");
+    row(Qt::Key_A, control | alt, "Ctrl+Alt+A");
+    row(Qt::Key_A, control | alt | shift, "Ctrl+Alt+Shift+A");
+    row(Qt::Key_F5, 0, "F5");
+    row(Qt::Key_F12, shift, "Shift+F12");
+    row(Qt::Key_F35, control | alt | shift, "Ctrl+Alt+Shift+F35");
+    row(Qt::Key_7, alt, "Alt+7");
+    row(Qt::Key_Plus, control, "Ctrl++");
+    row(Qt::Key_Comma, control | shift, "Ctrl+Shift+,");
+    row(Qt::Key_Delete, control | alt, "Ctrl+Alt+Del");
+}
+
+void tst_TableLineEdit::modifiers()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, text);
+    CTableLineEdit editor(3);
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyPress(&editor, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(editor.text(), text);
+    QCOMPARE(reported.size(), 1);
+    QCOMPARE(reported.at(0).at(0).toInt(), 3);
+    QCOMPARE(reported.at(0).at(1).toString(), text);
+    QTest::keyRelease(&editor, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(reported.size(), 1);
+}
+
+void tst_TableLineEdit::namedKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("text");
+    const auto row = [](int key, const char* text) {
+        QTest::newRow(text) << key << QString::fromLatin1(text);
+    };
+    row(Qt::Key_Backspace, "Backspace");
+    row(Qt::Key_Delete, "Del");
+    row(Qt::Key_Insert, "Ins");
+    row(Qt::Key_Escape, "Esc");
+    row(Qt::Key_Return, "Return");
+    row(Qt::Key_Enter, "Enter");
+    row(Qt::Key_Space, "Space");
+    row(Qt::Key_Home, "Home");
+    row(Qt::Key_End, "End");
+    row(Qt::Key_Left, "Left");
+    row(Qt::Key_Right, "Right");
+    row(Qt::Key_Up, "Up");
+    row(Qt::Key_Down, "Down");
+    row(Qt::Key_PageUp, "PgUp");
+    row(Qt::Key_PageDown, "PgDown");
+    row(Qt::Key_CapsLock, "CapsLock");
+    row(Qt::Key_Print, "Print");
+    row(Qt::Key_Pause, "Pause");
+    row(Qt::Key_F1, "F1");
+    row(Qt::Key_VolumeUp, "Volume Up");
+}
+
+void tst_TableLineEdit::namedKeys()
+{
+    QFETCH(int, key);
+    CTableLineEdit editor(0);
+    editor.setText(QStringLiteral("Ctrl+X"));
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyClick(&editor, Qt::Key(key));
+    QTEST(editor.text(), "text");
+    QCOMPARE(reported.size(), 1);
+}
+
+void tst_TableLineEdit::bareModifiers_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    for (const bool held : {false, true}) {
+        const char* const how = held ? "held" : "fresh";
+        QTest::addRow("Shift %s", how) << int(Qt::Key_Shift) << (held ? int(Qt::ShiftModifier) : 0);
+        QTest::addRow("Control %s", how)
+            << int(Qt::Key_Control) << (held ? int(Qt::ControlModifier) : 0);
+        QTest::addRow("Alt %s", how) << int(Qt::Key_Alt) << (held ? int(Qt::AltModifier) : 0);
+        QTest::addRow("Meta %s", how) << int(Qt::Key_Meta) << (held ? int(Qt::MetaModifier) : 0);
+    }
+    QTest::newRow("Shift with Control")
+        << int(Qt::Key_Shift) << int(Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+void tst_TableLineEdit::bareModifiers()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    CTableLineEdit editor(0);
+    editor.setText(QStringLiteral("F8"));
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyPress(&editor, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(editor.text(), QStringLiteral("F8"));
+    QCOMPARE(reported.size(), 0);
+    QTest::keyClick(&editor, Qt::Key_A, Qt::ShiftModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Shift+A"));
+    QCOMPARE(reported.size(), 1);
+}
+
+void tst_TableLineEdit::metaIsRefused_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    for (const int key : {int(Qt::Key_A), int(Qt::Key_F5), int(Qt::Key_Backspace)}) {
+        for (int mix = 0; mix < 16; ++mix) {
+            int modifiers = Qt::MetaModifier;
+            modifiers |= mix & 1 ? int(Qt::ShiftModifier) : 0;
+            modifiers |= mix & 2 ? int(Qt::ControlModifier) : 0;
+            modifiers |= mix & 4 ? int(Qt::AltModifier) : 0;
+            modifiers |= mix & 8 ? int(Qt::KeypadModifier) : 0;
+            QTest::addRow("%x %x", unsigned(key), unsigned(modifiers)) << key << modifiers;
+        }
+    }
+}
+
+void tst_TableLineEdit::metaIsRefused()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    CTableLineEdit editor(0);
+    editor.setText(QStringLiteral("F8"));
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyClick(&editor, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(editor.text(), QStringLiteral("F8"));
+    QCOMPARE(reported.size(), 0);
+}
+
+void tst_TableLineEdit::keypadIsIgnored_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("5") << int(Qt::Key_5) << int(Qt::KeypadModifier) << "5";
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "Enter";
+    QTest::newRow("Ctrl+5") << int(Qt::Key_5) << int(Qt::KeypadModifier | Qt::ControlModifier)
+                            << "Ctrl+5";
+    QTest::newRow("group switch") << int(Qt::Key_A) << int(Qt::GroupSwitchModifier) << "A";
+}
+
+void tst_TableLineEdit::keypadIsIgnored()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    CTableLineEdit editor(0);
+    QTest::keyClick(&editor, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QTEST(editor.text(), "text");
+}
+
+void tst_TableLineEdit::unknownKey()
+{
+    CTableLineEdit editor(0);
+    editor.setText(QStringLiteral("F8"));
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    seen.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(recordMessage);
+    for (const auto modifiers : {Qt::NoModifier, Qt::ShiftModifier, Qt::MetaModifier}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, modifiers, QStringLiteral("x"));
+        QCoreApplication::sendEvent(&editor, &press);
+    }
+    qInstallMessageHandler(previous);
+    QCOMPARE(
+        seen,
+        QStringList(
+            QVector<QString>(3, QStringLiteral("Unknown key from a macro probably")).toList()));
+    QCOMPARE(editor.text(), QStringLiteral("F8"));
+    QCOMPARE(reported.size(), 0);
+
+    // No other key writes the line.
+    seen.clear();
+    qInstallMessageHandler(recordMessage);
+    QTest::keyClick(&editor, Qt::Key_Shift);
+    QTest::keyClick(&editor, Qt::Key_A);
+    qInstallMessageHandler(previous);
+    QCOMPARE(seen, QStringList());
+}
+
+void tst_TableLineEdit::theTextOfTheEventDoesNotMatter()
+{
+    CTableLineEdit editor(0);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier, QStringLiteral("中文"));
+    QCoreApplication::sendEvent(&editor, &press);
+    QCOMPARE(editor.text(), QStringLiteral("Q"));
+    QVERIFY(press.isAccepted());
+}
+
+void tst_TableLineEdit::repeatedPress()
+{
+    CTableLineEdit editor(0);
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    for (int press = 0; press < 3; ++press)
+        QTest::keyClick(&editor, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Ctrl+A"));
+    QCOMPARE(reported.size(), 3);
+    QCOMPARE(reported.at(2).at(1).toString(), QStringLiteral("Ctrl+A"));
+    // One chord only, never a sequence.
+    QTest::keyClick(&editor, Qt::Key_B, Qt::ControlModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Ctrl+B"));
+}
+
+void tst_TableLineEdit::disabledTakesNoKeys()
+{
+    Host host;
+    QVERIFY(host.active);
+    host.editor->setEnabled(false);
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyClick(host.windowHandle(), Qt::Key_A);
+    QTest::mouseClick(host.editor, Qt::LeftButton);
+    QTest::keyClick(host.windowHandle(), Qt::Key_B);
+    QCOMPARE(host.editor->text(), QString());
+    QCOMPARE(reported.size(), 0);
+}
+
+void tst_TableLineEdit::windowShortcuts_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto row = [](int key, int modifiers, const char* text) {
+        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+    };
+    row(Qt::Key_F5, 0, "F5");
+    row(Qt::Key_Escape, 0, "Esc");
+    row(Qt::Key_Return, 0, "Return");
+    row(Qt::Key_Space, 0, "Space");
+    row(Qt::Key_A, 0, "A");
+    row(Qt::Key_A, Qt::ControlModifier, "Ctrl+A");
+    row(Qt::Key_C, Qt::ControlModifier, "Ctrl+C");
+    row(Qt::Key_V, Qt::ControlModifier, "Ctrl+V");
+    row(Qt::Key_Z, Qt::ControlModifier, "Ctrl+Z");
+    row(Qt::Key_Q, Qt::ControlModifier | Qt::ShiftModifier, "Ctrl+Shift+Q");
+    row(Qt::Key_F4, Qt::AltModifier, "Alt+F4");
+    row(Qt::Key_D, Qt::AltModifier, "Alt+D"); // the button's mnemonic
+    row(Qt::Key_Tab, Qt::ControlModifier, "Ctrl+Tab");
+}
+
+void tst_TableLineEdit::windowShortcuts()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    Host host;
+    QVERIFY(host.active);
+    QShortcut shortcut(QKeySequence(key | modifiers), &host, nullptr, nullptr,
+                       Qt::ApplicationShortcut);
+    const QSignalSpy taken(&shortcut, &QShortcut::activated);
+    const QSignalSpy ambiguous(&shortcut, &QShortcut::activatedAmbiguously);
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    QTest::keyClick(host.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QTEST(host.editor->text(), "text");
+    QCOMPARE(reported.size(), 1);
+    QCOMPARE(taken.size() + ambiguous.size(), 0);
+    QCOMPARE(host.buttonClicks, 0);
+    QVERIFY(host.editor->hasFocus());
+}
+
+void tst_TableLineEdit::keysOfDialogAndTable_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto row = [](int key, int modifiers, const char* text) {
+        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+    };
+    row(Qt::Key_Escape, 0, "Esc");
+    row(Qt::Key_Return, 0, "Return");
+    row(Qt::Key_Enter, Qt::KeypadModifier, "Enter");
+    row(Qt::Key_Up, 0, "Up");
+    row(Qt::Key_Down, 0, "Down");
+    row(Qt::Key_Left, 0, "Left");
+    row(Qt::Key_Right, 0, "Right");
+    row(Qt::Key_Home, 0, "Home");
+    row(Qt::Key_End, Qt::ControlModifier, "Ctrl+End");
+    row(Qt::Key_PageUp, 0, "PgUp");
+    row(Qt::Key_PageDown, 0, "PgDown");
+    row(Qt::Key_F2, 0, "F2");
+    row(Qt::Key_Space, 0, "Space");
+    row(Qt::Key_A, Qt::ControlModifier, "Ctrl+A");
+    row(Qt::Key_Delete, 0, "Del");
+    row(Qt::Key_Menu, 0, "Menu");
+    row(Qt::Key_F10, Qt::ShiftModifier, "Shift+F10");
+}
+
+void tst_TableLineEdit::keysOfDialogAndTable()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    Host host;
+    QVERIFY(host.active);
+    QTest::keyClick(host.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QTEST(host.editor->text(), "text");
+    QVERIFY(host.isVisible());
+    QCOMPARE(host.ends, 0);
+    QCOMPARE(host.buttonClicks, 0);
+    QCOMPARE(host.table->currentRow(), 1);
+    QCOMPARE(host.table->currentColumn(), 1);
+    QVERIFY(host.editor->hasFocus());
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_TableLineEdit::tabMovesTheFocus_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("Tab") << int(Qt::Key_Tab) << 0;
+    QTest::newRow("Shift+Tab") << int(Qt::Key_Tab) << int(Qt::ShiftModifier);
+    QTest::newRow("Backtab") << int(Qt::Key_Backtab) << int(Qt::ShiftModifier);
+}
+
+void tst_TableLineEdit::tabMovesTheFocus()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    Host host;
+    QVERIFY(host.active);
+    QTest::keyClick(host.windowHandle(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(host.editor->text(), QString());
+    QVERIFY(!host.editor->hasFocus());
+}
+
+void tst_TableLineEdit::shortcutsWorkWithoutTheFocus()
+{
+    Host host;
+    QVERIFY(host.active);
+    QShortcut shortcut(QKeySequence(Qt::Key_F5), &host);
+    const QSignalSpy taken(&shortcut, &QShortcut::activated);
+    host.other->setFocus();
+    QTest::keyClick(host.windowHandle(), Qt::Key_F5);
+    QCOMPARE(taken.size(), 1);
+    QCOMPARE(host.editor->text(), QString());
+}
+
+void tst_TableLineEdit::noInputMethod()
+{
+    Host host;
+    QVERIFY(host.active);
+    // Not even asked for: an input method would keep the keys for itself.
+    QVERIFY(!host.editor->testAttribute(Qt::WA_InputMethodEnabled));
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    QInputMethodEvent preedit(QStringLiteral("ni"), {});
+    QCoreApplication::sendEvent(host.editor, &preedit);
+    QInputMethodEvent commit;
+    commit.setCommitString(QStringLiteral("你"));
+    QCoreApplication::sendEvent(host.editor, &commit);
+    QCOMPARE(host.editor->text(), QString());
+    QCOMPARE(host.editor->displayText(), QString());
+    QCOMPARE(reported.size(), 0);
+}
+
+void tst_TableLineEdit::noPaste()
+{
+    Host host;
+    QVERIFY(host.active);
+    QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
+    host.editor->setText(QStringLiteral("F8"));
+    const QScopedPointer<QMenu> menu(host.editor->createStandardContextMenu());
+    if (menu) {
+        for (QAction* const action : menu->actions())
+            action->trigger();
+    }
+    QCOMPARE(host.editor->text(), QStringLiteral("F8"));
+
+    QTest::keyClick(host.windowHandle(), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+V"));
+    QTest::keyClick(host.windowHandle(), Qt::Key_Insert, Qt::ShiftModifier);
+    QCOMPARE(host.editor->text(), QStringLiteral("Shift+Ins"));
+}
+
+void tst_TableLineEdit::noDrop()
+{
+    Host host;
+    QVERIFY(host.active);
+    QMimeData data;
+    data.setText(QStringLiteral("dropped"));
+    const QPoint middle = host.editor->rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(host.editor, &enter);
+    QVERIFY(!enter.isAccepted());
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(host.editor, &drop);
+    QCOMPARE(host.editor->text(), QString());
+}
+
+void tst_TableLineEdit::noMiddleButton()
+{
+    Host host;
+    QVERIFY(host.active);
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    clipboard->setText(QStringLiteral("pasted"));
+    if (clipboard->supportsSelection())
+        clipboard->setText(QStringLiteral("selected"), QClipboard::Selection);
+    QTest::mouseClick(host.editor, Qt::MiddleButton);
+    QCOMPARE(host.editor->text(), QString());
+}
+
+void tst_TableLineEdit::editFinishedReportsNothing()
+{
+    Host host;
+    QVERIFY(host.active);
+    host.editor->setText(QStringLiteral("F8"));
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    host.editor->EditFinished();
+    emit host.editor->editingFinished();
+    host.other->setFocus();
+    QVERIFY(!host.editor->hasFocus());
+    QCOMPARE(reported.size(), 0);
+    QCOMPARE(host.editor->text(), QStringLiteral("F8"));
+}
+
+TRADECONFIG_TEST_MAIN(tst_TableLineEdit)
+#include "tst_TableLineEdit.moc"
