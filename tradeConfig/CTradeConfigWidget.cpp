@@ -48,6 +48,15 @@ constexpr Tip tips[] = {
     {SplitRules::Verdict::AboveUpper, QT_TRANSLATE_NOOP("CTradeConfigWidget", "不能大于上限"), 160},
 };
 
+QStringList textsOf(const QVector<CTableLineEdit*>& editors)
+{
+    QStringList texts;
+    texts.reserve(editors.size());
+    for (const CTableLineEdit* const editor : editors)
+        texts << editor->text();
+    return texts;
+}
+
 const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
 
 } // namespace
@@ -272,22 +281,11 @@ void CTradeConfigWidget::WriteAllParm()
     ParmBinding::storeRiseIndex(parm, ui, RisePrice::sell);
     ParmBinding::storeRiseChoices(parm, ui, RisePrice::buy);
     ParmBinding::storeRiseChoices(parm, ui, RisePrice::sell);
-    ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts,
-                                shownShortcuts(ShortcutTable::stock));
-    ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts,
-                                shownShortcuts(ShortcutTable::credit));
+    ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts, textsOf(stockEditors));
+    ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts, textsOf(creditEditors));
 
     m_pTrade->SaveTradeParm();
     CloseDlg();
-}
-
-QStringList CTradeConfigWidget::shownShortcuts(const ShortcutTable& table) const
-{
-    QStringList texts;
-    texts.reserve(ShortcutTable::rowCount);
-    for (int row = 0; row < ShortcutTable::rowCount; ++row)
-        texts << table.editor(ui, row)->text();
-    return texts;
 }
 
 bool CTradeConfigWidget::everyInputIsValid()
@@ -484,6 +482,7 @@ void CTradeConfigWidget::endRiseEdit(const RisePrice& price, const QString& text
 void CTradeConfigWidget::InitStockTable()
 {
     ShortcutTable::stock.build(ui, [this](CTableLineEdit* editor) {
+        stockEditors << editor;
         connect(editor, &CTableLineEdit::signal_editFinished, this,
                 &CTradeConfigWidget::CellEditFinished);
     });
@@ -492,6 +491,7 @@ void CTradeConfigWidget::InitStockTable()
 void CTradeConfigWidget::InitCreditTable()
 {
     ShortcutTable::credit.build(ui, [this](CTableLineEdit* editor) {
+        creditEditors << editor;
         connect(editor, &CTableLineEdit::signal_editFinished, this,
                 &CTradeConfigWidget::CellEditFinished2);
     });

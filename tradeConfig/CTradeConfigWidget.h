@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <QWidget>
 
 class CSwitchEx;
@@ -127,11 +128,14 @@ private:
     void initValidators();
     void readSplitGroup(const TradeParm& parm, const SplitGroup& group);
     void readShortcuts(const ShortcutTable& table, const QStringList& texts);
-    QStringList shownShortcuts(const ShortcutTable& table) const;
     bool everyInputIsValid();
     void focusLeft(QObject* watched);
     void checkSplitField(const SplitGroup& group, SplitRules::Field field);
     void beginRiseEdit(const RisePrice& price, QString& text);
     void endRiseEdit(const RisePrice& price, const QString& text);
     void keyCaptured(const ShortcutTable& table, QStringList& texts, int row, const QString& text);
+
+    // By table row. A cell of the table is found by a search that costs more than its text.
+    QVector<CTableLineEdit*> stockEditors;
+    QVector<CTableLineEdit*> creditEditors;
 };
