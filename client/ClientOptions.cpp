@@ -17,7 +17,9 @@ ClientOptions ClientOptions::parse()
                                          tr("以 JSON 格式输出交易参数后退出。"));
     const QCommandLineOption module(QStringLiteral("module"),
                                     tr("加载指定的设置模块，而不是随程序安装的模块。"), tr("文件"));
-    parser.addOptions({screenshots, printRecord, module});
+    const QCommandLineOption skin(QStringLiteral("skin"),
+                                  tr("使用指定的皮肤：皮肤名称或皮肤所在的目录。"), tr("皮肤"));
+    parser.addOptions({screenshots, printRecord, skin, module});
     parser.process(*QCoreApplication::instance());
 
     const auto refuse = [&parser](const QString& reason) {
@@ -30,6 +32,7 @@ ClientOptions ClientOptions::parse()
     options.screenshotDirectory = parser.value(screenshots);
     if (parser.isSet(screenshots) && options.screenshotDirectory.isEmpty())
         refuse(tr("--screenshots 需要一个目录"));
+    options.skin = parser.value(skin);
     options.module = parser.value(module);
     options.printRecord = parser.isSet(printRecord);
     return options;

@@ -10,6 +10,7 @@ struct ClientOptions {
 public:
     QString screenshotDirectory; ///< empty: none wanted
     QString module; ///< empty: the one beside this program
+    QString skin; ///< name or folder; empty: the one last chosen
     bool printRecord = false;
 
     /// Reads the arguments of the running application. Ends the process for --help and

@@ -22,6 +22,11 @@ QString DataDirectory::settingsFile() const
     return directory.absoluteFilePath(QStringLiteral("system_settings.ini"));
 }
 
+QString DataDirectory::clientFile() const
+{
+    return configDirectory() + QStringLiteral("/client.ini");
+}
+
 QString DataDirectory::runDirectory() const { return m_home + QStringLiteral("/run"); }
 QString DataDirectory::lockFile() const { return runDirectory() + QStringLiteral("/client.lock"); }
 QString DataDirectory::startFile() const

@@ -18,6 +18,8 @@ public:
     /// The interface settings: in the configuration directory, or in the home directory itself
     /// as long as there is no configuration directory. The module goes by the same rule.
     QString settingsFile() const;
+    /// The client's own choices for its window.
+    QString clientFile() const;
     QString runDirectory() const;
     /// Locked by the running client.
     QString lockFile() const;

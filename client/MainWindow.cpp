@@ -84,6 +84,7 @@ void MainWindow::buildActions()
     file->addAction(settings);
     file->addSeparator();
     file->addAction(quit);
+    m_skinMenu = menuBar()->addMenu(tr("视图(&V)"))->addMenu(tr("皮肤"));
     QMenu* const help = menuBar()->addMenu(tr("帮助(&H)"));
     help->addAction(about);
 

@@ -6,7 +6,7 @@
 
 class DataDirectory;
 class QLabel;
-class QLineEdit;
+class QMenu;
 class QTableView;
 class RecordModel;
 class SettingsModule;
@@ -40,6 +40,8 @@ public:
     /// Opens the settings, or brings them to the front when they are open.
     void openSettings();
     SettingsWindow* settingsWindow() const;
+    /// Where skins are listed; empty until somebody fills it.
+    QMenu* skinMenu() const { return m_skinMenu; }
     RecordModel* model() const { return m_model; }
 
 private:
@@ -54,6 +56,7 @@ private:
     const DataDirectory& m_directory;
     RecordModel* m_model;
     RecordFilter* m_filter;
+    QMenu* m_skinMenu = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_summary = nullptr;
     QPointer<SettingsWindow> m_settings;

@@ -7,7 +7,7 @@
 
 SettingsWindow::SettingsWindow(QWidget* dialog, QWidget* parent)
     : QScrollArea(parent)
-    , m_formSize(dialog->size())
+    , m_formSize(dialog->size().expandedTo(dialog->minimumSizeHint()))
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                    | Qt::WindowCloseButtonHint);

@@ -50,7 +50,6 @@ InterfaceScale::InterfaceScale(int percent)
     bool ok = false;
     const double before = m_before.toDouble(&ok);
     const double factor = percent / 100.0 * (ok && before > 0 ? before : 1.0);
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // 105 % must not become 100 %.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(

@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "Screenshots.h"
 #include "SettingsModule.h"
+#include "SkinSwitcher.h"
 #include "StartSettings.h"
 #include "TradeCore.h"
 
@@ -86,7 +87,7 @@ int writePages(const SettingsModule& module, const DataDirectory& directory, con
     return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
 }
 
-int runClient(const SettingsModule& module, const DataDirectory& directory,
+int runClient(const SettingsModule& module, const DataDirectory& directory, SkinSwitcher& skins,
               const QStringList& arguments)
 {
     Instance instance(directory);
@@ -111,6 +112,7 @@ int runClient(const SettingsModule& module, const DataDirectory& directory,
     int status;
     {
         MainWindow window(module, core, directory);
+        skins.fill(window.skinMenu());
         window.show();
         if (!report.isClean())
             tell(QMessageBox::Warning, report.message());
@@ -169,7 +171,13 @@ int main(int argc, char** argv)
 
     if (!moduleFailure.isEmpty())
         return fail(moduleFailure);
+
+    // The only style that follows a skin's palette everywhere.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    SkinSwitcher skins(directory);
+    if (!skins.start(options.skin))
+        return fail(Client::tr("无法使用皮肤 %1").arg(options.skin));
     if (wantsPictures)
         return writePages(module, directory, options.screenshotDirectory);
-    return runClient(module, directory, arguments);
+    return runClient(module, directory, skins, arguments);
 }

@@ -135,7 +135,7 @@ void tst_ClientCommandLine::missingModule()
             arguments += action;
         const Outcome outcome = run(arguments);
         QCOMPARE(outcome.status, 1);
-        QVERIFY2(outcome.errors.contains(file.toUtf8()), outcome.errors);
+        QVERIFY2(outcome.errors.contains(file.toUtf8()), outcome.errors.constData());
         QVERIFY(outcome.errors.contains("文件不存在"));
         QVERIFY(outcome.output.isEmpty());
     }
@@ -146,10 +146,13 @@ void tst_ClientCommandLine::missingModuleBesideTheProgram()
     const QString program = m_home->filePath(QStringLiteral("bin/tradeclient"));
     QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("bin"))));
     QVERIFY(QFile::copy(QStringLiteral(CLIENT_PROGRAM), program));
+    QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("lib"))));
+    QVERIFY(QFile::copy(QStringLiteral(SKIN_LIBRARY),
+                        m_home->filePath(QStringLiteral("lib/libskin.so"))));
     const Outcome outcome = run({}, program, QStringLiteral("offscreen"));
     QCOMPARE(outcome.status, 1);
     const QString expected = m_home->filePath(QStringLiteral("lib/libtradeConfig.so"));
-    QVERIFY2(outcome.errors.contains(expected.toUtf8()), outcome.errors);
+    QVERIFY2(outcome.errors.contains(expected.toUtf8()), outcome.errors.constData());
 }
 
 void tst_ClientCommandLine::moduleThatIsNoLibrary()
@@ -161,7 +164,8 @@ void tst_ClientCommandLine::moduleThatIsNoLibrary()
     text.close();
     const Outcome outcome = run({QStringLiteral("--module"), file});
     QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.contains(file.toUtf8() + "：Cannot load library"), outcome.errors);
+    QVERIFY2(outcome.errors.contains(file.toUtf8() + "：Cannot load library"),
+             outcome.errors.constData());
 }
 
 void tst_ClientCommandLine::moduleWithoutTheSymbol()
@@ -169,7 +173,7 @@ void tst_ClientCommandLine::moduleWithoutTheSymbol()
     const Outcome outcome
         = run({QStringLiteral("--module"), QStringLiteral(LIBRARY_WITHOUT_FACTORY)});
     QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.contains(LIBRARY_WITHOUT_FACTORY), outcome.errors);
+    QVERIFY2(outcome.errors.contains(LIBRARY_WITHOUT_FACTORY), outcome.errors.constData());
     QVERIFY(outcome.errors.contains("CreateModuleWidget"));
 }
 
@@ -177,7 +181,7 @@ void tst_ClientCommandLine::withoutADisplay()
 {
     const Outcome outcome = run({});
     QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.contains("--screenshots"), outcome.errors);
+    QVERIFY2(outcome.errors.contains("--screenshots"), outcome.errors.constData());
 }
 
 void tst_ClientCommandLine::printsTheDefaults()
@@ -209,7 +213,7 @@ void tst_ClientCommandLine::printRecordTellsOfAWrongValue()
     write(QStringLiteral("config/trade_parameters.json"), R"({"lockMinutes": -5})");
     const Outcome outcome = run({QStringLiteral("--print-record")});
     QCOMPARE(outcome.status, 0);
-    QVERIFY2(outcome.errors.contains("lockMinutes"), outcome.errors);
+    QVERIFY2(outcome.errors.contains("lockMinutes"), outcome.errors.constData());
     QVERIFY(outcome.errors.contains("-5"));
     const QStringList files = QDir(data(QStringLiteral("config"))).entryList(QDir::Files);
     QCOMPARE(files.size(), 1);
@@ -243,7 +247,7 @@ void tst_ClientCommandLine::screenshots()
         write(QStringLiteral("config/system_settings.ini"), "[UI]\nscale=" + scale + "\n");
     const QString target = m_home->filePath(QStringLiteral("new/pictures"));
     const Outcome outcome = run({QStringLiteral("--screenshots"), target});
-    QVERIFY2(outcome.status == 0, outcome.errors);
+    QVERIFY2(outcome.status == 0, outcome.errors.constData());
     const QList<QByteArray> files = outcome.output.trimmed().split('\n');
     QCOMPARE(files.size(), 10);
     QSet<QByteArray> different;
@@ -251,10 +255,10 @@ void tst_ClientCommandLine::screenshots()
         const QString name = QString::fromUtf8(file);
         QCOMPARE(QFileInfo(name).path(), target);
         const QImage image(name);
-        QVERIFY2(!image.isNull(), file);
+        QVERIFY2(!image.isNull(), file.constData());
         // A fraction of a pixel may be rounded either way.
-        QVERIFY2(qAbs(image.width() - size.width()) <= 1, file);
-        QVERIFY2(qAbs(image.height() - size.height()) <= 1, file);
+        QVERIFY2(qAbs(image.width() - size.width()) <= 1, file.constData());
+        QVERIFY2(qAbs(image.height() - size.height()) <= 1, file.constData());
         QFile content(name);
         QVERIFY(content.open(QIODevice::ReadOnly));
         different.insert(content.readAll());
@@ -271,7 +275,7 @@ void tst_ClientCommandLine::screenshotsIntoAFile()
     QVERIFY(file.open(QIODevice::WriteOnly));
     const Outcome outcome = run({QStringLiteral("--screenshots"), target});
     QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.contains(target.toUtf8()), outcome.errors);
+    QVERIFY2(outcome.errors.contains(target.toUtf8()), outcome.errors.constData());
 }
 
 std::unique_ptr<QProcess> tst_ClientCommandLine::startClient() const
@@ -279,7 +283,7 @@ std::unique_ptr<QProcess> tst_ClientCommandLine::startClient() const
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment(QStringLiteral("offscreen")));
     process->setWorkingDirectory(m_home->path());
-    process->start(QStringLiteral(CLIENT_PROGRAM), {});
+    process->start(QStringLiteral(CLIENT_PROGRAM), QStringList());
     return process;
 }
 
@@ -295,7 +299,7 @@ void tst_ClientCommandLine::secondInstance()
 
     const Outcome second = run({}, QStringLiteral(CLIENT_PROGRAM), QStringLiteral("offscreen"));
     QCOMPARE(second.status, 1);
-    QVERIFY2(second.errors.contains("已在运行"), second.errors);
+    QVERIFY2(second.errors.contains("已在运行"), second.errors.constData());
     QCOMPARE(first->state(), QProcess::Running);
     // Reading is no second client.
     QCOMPARE(run({QStringLiteral("--print-record")}).status, 0);
