@@ -23,6 +23,8 @@ Instance::~Instance()
 
 QString Instance::claim()
 {
+    if (m_lock >= 0)
+        return QString();
     const QString file = m_directory.lockFile();
     const auto systemError = [&file] {
         return tr("无法使用 %1：%2").arg(file, QString::fromLocal8Bit(std::strerror(errno)));

@@ -21,7 +21,7 @@ public:
     Instance(const Instance&) = delete;
     Instance& operator=(const Instance&) = delete;
 
-    /// Returns an empty text, or why this process cannot be the one.
+    /// Returns an empty text, or why this process cannot be the one. Once it is, it stays so.
     QString claim();
 
     /// Only after claim(). @p arguments without the program's name.
