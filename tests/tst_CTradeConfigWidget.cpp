@@ -193,6 +193,7 @@ private slots:
     void restartComesBeforeValidation();
     void noToTheRestartSavesAndCloses();
     void yesToTheRestartSavesAndQuits();
+    void yesToTheRestartOfAnInvalidInputWritesNothing();
     void restartIsAskedAgain();
     void unchangedScaleAsksNothing();
 };
@@ -927,6 +928,26 @@ void tst_CTradeConfigWidget::yesToTheRestartSavesAndQuits()
     QCOMPARE(opened.trade.saves, 1);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 4);
     QVERIFY(!opened->isVisible());
+}
+
+// The application is quitting already, so the refusal is not seen; it holds all the same.
+void tst_CTradeConfigWidget::yesToTheRestartOfAnInvalidInputWritesNothing()
+{
+    Opened opened;
+    opened->show();
+    opened.ui().spinBox_scale->setValue(145);
+    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(4);
+    opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
+    const int gets = opened.trade.gets;
+    const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("是"));
+    QTimer::singleShot(0, opened.ui().pushButton_confirm,
+                       [&] { opened.ui().pushButton_confirm->click(); });
+    QTimer::singleShot(20000, opened.dialog.get(), [] { QCoreApplication::exit(99); });
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(opened.trade.saves, 0);
+    QCOMPARE(opened.trade.gets, gets);
+    QCOMPARE(opened.trade.parm().defaultBuyPrice, 0);
+    QVERIFY(!opened->isHidden());
 }
 
 void tst_CTradeConfigWidget::restartIsAskedAgain()

@@ -6,6 +6,7 @@
 
 #include <QMap>
 #include <QSet>
+#include <QTextCodec>
 #include <climits>
 #include <cstring>
 
@@ -203,6 +204,7 @@ private slots:
     void hotkeyEditedInRow();
     void keyTextsInLocalEncoding_data();
     void keyTextsInLocalEncoding();
+    void keyTextsInAnotherEncoding();
     void globalHotkeysStayOut();
     void reservedBytesStay();
     void pageModeStays();
@@ -735,6 +737,30 @@ void tst_RecordRoundTrip::keyTextsInLocalEncoding()
     confirm(dialog);
     QCOMPARE(trade.text(&TradeParm::stockShortcuts, 5), bytes);
     QCOMPARE(trade.text(&TradeParm::creditShortcuts, 12), bytes);
+}
+
+// The local encoding, whatever it is: here one in which the same bytes are no UTF-8.
+void tst_RecordRoundTrip::keyTextsInAnotherEncoding()
+{
+    QTextCodec* const before = QTextCodec::codecForLocale();
+    QTextCodec* const codec = QTextCodec::codecForName("GB18030");
+    QVERIFY(codec);
+    FakeTrade trade;
+    trade.setDistinctShortcuts();
+    trade.setText(&TradeParm::stockShortcuts, 0, "\xbf\xd5");
+    trade.setText(&TradeParm::creditShortcuts, 5, "Ctrl+\xbf\xd5");
+    QTextCodec::setCodecForLocale(codec);
+    CTradeConfigWidget dialog(&trade);
+    const QString stock = dialog.stockShortcutTexts.at(0);
+    const QString credit = dialog.creditShortcutTexts.at(2);
+    trade.setText(&TradeParm::stockShortcuts, 0, "other");
+    trade.setText(&TradeParm::creditShortcuts, 5, "other");
+    confirm(dialog);
+    QTextCodec::setCodecForLocale(before);
+    QCOMPARE(stock, QStringLiteral("空"));
+    QCOMPARE(credit, QStringLiteral("Ctrl+空"));
+    QCOMPARE(trade.text(&TradeParm::stockShortcuts, 0), QByteArray("\xbf\xd5"));
+    QCOMPARE(trade.text(&TradeParm::creditShortcuts, 5), QByteArray("Ctrl+\xbf\xd5"));
 }
 
 void tst_RecordRoundTrip::globalHotkeysStayOut()
