@@ -93,6 +93,25 @@ private:
     int m_atCall;
 };
 
+// Turns the scale of the dialog that is just being loaded.
+class ScaleTurningTrade : public FakeTrade {
+public:
+    TradeParm* GetTradeParm() override
+    {
+        if (gets == 1) {
+            for (const QWidget* const widget : QApplication::allWidgets()) {
+                if (const auto* const dialog = qobject_cast<const CTradeConfigWidget*>(widget)) {
+                    dialog->ui.spinBox_scale->setValue(200);
+                    wasNeeded = dialog->restartNeeded;
+                }
+            }
+        }
+        return FakeTrade::GetTradeParm();
+    }
+
+    bool wasNeeded = false;
+};
+
 // Sees which objects' events pass through the dialog's filter.
 class FilterWatcher : public CTradeConfigWidget {
 public:
@@ -174,6 +193,7 @@ private slots:
     void inputSignalsHaveTheirEffect();
     void protectionPriceSignalsHaveTheirEffect();
     void scaleEditAsksForARestart();
+    void scaleSetWhileLoadingIsNoEdit();
     void languageChangeIsReported();
 
     void mouseNavigation();
@@ -630,6 +650,15 @@ void tst_CTradeConfigWidget::scaleEditAsksForARestart()
     QVERIFY(opened->restartNeeded);
     opened.ui().spinBox_scale->stepDown();
     QVERIFY(opened->restartNeeded);
+}
+
+void tst_CTradeConfigWidget::scaleSetWhileLoadingIsNoEdit()
+{
+    ScaleTurningTrade trade;
+    const CTradeConfigWidget dialog(&trade);
+    QCOMPARE(dialog.ui.spinBox_scale->value(), 200);
+    QVERIFY(trade.wasNeeded);
+    QVERIFY(!dialog.restartNeeded);
 }
 
 void tst_CTradeConfigWidget::languageChangeIsReported()
