@@ -24,7 +24,7 @@ namespace {
 struct Message {
     QString context;
     QString source;
-    QString translation;
+    QStringList forms; ///< one, or one for each plural form
     bool unfinished = false;
 };
 
@@ -35,19 +35,27 @@ QVector<Message> messagesOf(const QString& path)
         return {};
     QVector<Message> messages;
     QString context;
+    bool plural = false;
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            plural = xml.attributes().hasAttribute(QLatin1String("numerus"));
         } else if (xml.name() == QLatin1String("source")) {
             messages.append({context, xml.readElementText(), {}, false});
-        } else if (xml.name() == QLatin1String("translation") && !messages.isEmpty()) {
+        } else if (xml.name() == QLatin1String("translation")) {
             messages.last().unfinished = xml.attributes().hasAttribute(QLatin1String("type"));
-            messages.last().translation = xml.readElementText();
+            if (!plural)
+                messages.last().forms << xml.readElementText();
+        } else if (xml.name() == QLatin1String("numerusform")) {
+            messages.last().forms << xml.readElementText();
         }
     }
+    if (xml.hasError())
+        return {};
     return messages;
 }
 
@@ -169,9 +177,11 @@ void tst_Translations::placeholdersSurvive()
 {
     QFETCH(QString, language);
     for (const Message& message : messagesOf(sourceFile(language))) {
-        for (const QString& mark :
-             {QStringLiteral("%1"), QStringLiteral("%2"), QStringLiteral("%3")})
-            QCOMPARE(message.translation.count(mark), message.source.count(mark));
+        for (const QString& mark : {QStringLiteral("%1"), QStringLiteral("%2"),
+                                    QStringLiteral("%3"), QStringLiteral("%n")}) {
+            for (const QString& form : message.forms)
+                QCOMPARE(form.count(mark), message.source.count(mark));
+        }
     }
 }
 
