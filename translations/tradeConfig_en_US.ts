@@ -638,4 +638,784 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>Same as %1</translation>
     </message>
 </context>
+<context>
+    <name>Client</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+    <message>
+        <source>设置模块 %1 无法创建设置窗口</source>
+        <translation>The settings module %1 could not create the settings window</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>没有可用的显示。可用 --screenshots 将设置窗口保存为图片。</source>
+        <translation>There is no display. Use --screenshots to save the settings window as images.</translation>
+    </message>
+    <message>
+        <source>无法使用皮肤 %1</source>
+        <translation>Cannot use the skin %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClientOptions</name>
+    <message>
+        <source>桌面证券交易客户端</source>
+        <translation>Desktop stock-trading client</translation>
+    </message>
+    <message>
+        <source>将设置窗口的每一页按实际大小保存为 PNG 文件后退出。</source>
+        <translation>Save every page of the settings window in its real size to PNG files and quit.</translation>
+    </message>
+    <message>
+        <source>目录</source>
+        <translation>directory</translation>
+    </message>
+    <message>
+        <source>以 JSON 格式输出交易参数后退出。</source>
+        <translation>Print the trading parameters as JSON and quit.</translation>
+    </message>
+    <message>
+        <source>加载指定的设置模块，而不是随程序安装的模块。</source>
+        <translation>Load this settings module instead of the installed one.</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>file</translation>
+    </message>
+    <message>
+        <source>使用指定的皮肤：皮肤名称或皮肤所在的目录。</source>
+        <translation>Use this skin: its name or its directory.</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>Skin</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>Unexpected argument: %1</translation>
+    </message>
+    <message>
+        <source>--screenshots 需要一个目录</source>
+        <translation>--screenshots needs a directory</translation>
+    </message>
+</context>
+<context>
+    <name>FileReplace</name>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>Cannot write %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Instance</name>
+    <message>
+        <source>无法使用 %1：%2</source>
+        <translation>Cannot use %1: %2</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>客户端已在运行（数据目录 %1）</source>
+        <translation>The client is already running (data directory %1)</translation>
+    </message>
+    <message>
+        <source>无法读取重启程序 %1：%2</source>
+        <translation>Cannot read the restarter %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>打开交易设置（%1）</source>
+        <translation>Open the trading settings (%1)</translation>
+    </message>
+    <message>
+        <source>退出(&amp;X)</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>关于(&amp;A)</source>
+        <translation>&amp;About</translation>
+    </message>
+    <message>
+        <source>系统(&amp;S)</source>
+        <translation>&amp;System</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>Skin</translation>
+    </message>
+    <message>
+        <source>帮助(&amp;H)</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>工具栏</source>
+        <translation>Toolbar</translation>
+    </message>
+    <message>
+        <source>搜索参数、字段或数值</source>
+        <translation>Search parameters, fields or values</translation>
+    </message>
+    <message>
+        <source>仅显示最近修改</source>
+        <translation>Only the latest changes</translation>
+    </message>
+    <message>
+        <source>交易参数</source>
+        <translation>Trading parameters</translation>
+    </message>
+    <message>
+        <source>尚未修改</source>
+        <translation>Nothing changed yet</translation>
+    </message>
+    <message>
+        <source>参数文件：%1</source>
+        <translation>Record: %1</translation>
+    </message>
+    <message>
+        <source>设置模块无法创建设置窗口。</source>
+        <translation>The settings module could not create the settings window.</translation>
+    </message>
+    <message>
+        <source>%1 已确认，没有修改</source>
+        <translation>%1 confirmed, nothing changed</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已确认，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 confirmed, %n value changed</numerusform>
+            <numerusform>%1 confirmed, %n values changed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>新的交易参数已生效，但未能保存：
+%1
+
+原文件未改动，退出客户端时将再次尝试保存。</source>
+        <translation>The new trading parameters are in effect but could not be saved:
+%1
+
+The old file is unchanged. Saving is tried again when the client quits.</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>交易客户端 %1
+
+设置模块：%2
+数据目录：%3</source>
+        <translation>Trading Client %1
+
+Settings module: %2
+Data directory: %3</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFields</name>
+    <message>
+        <source>卖一</source>
+        <translation>Ask 1</translation>
+    </message>
+    <message>
+        <source>卖二</source>
+        <translation>Ask 2</translation>
+    </message>
+    <message>
+        <source>卖三</source>
+        <translation>Ask 3</translation>
+    </message>
+    <message>
+        <source>卖四</source>
+        <translation>Ask 4</translation>
+    </message>
+    <message>
+        <source>卖五</source>
+        <translation>Ask 5</translation>
+    </message>
+    <message>
+        <source>最新价</source>
+        <translation>Last</translation>
+    </message>
+    <message>
+        <source>空</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>买一</source>
+        <translation>Bid 1</translation>
+    </message>
+    <message>
+        <source>买二</source>
+        <translation>Bid 2</translation>
+    </message>
+    <message>
+        <source>买三</source>
+        <translation>Bid 3</translation>
+    </message>
+    <message>
+        <source>买四</source>
+        <translation>Bid 4</translation>
+    </message>
+    <message>
+        <source>买五</source>
+        <translation>Bid 5</translation>
+    </message>
+    <message>
+        <source>全仓</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>1/2</source>
+        <translation>1/2</translation>
+    </message>
+    <message>
+        <source>1/3</source>
+        <translation>1/3</translation>
+    </message>
+    <message>
+        <source>1/4</source>
+        <translation>1/4</translation>
+    </message>
+    <message>
+        <source>1/5</source>
+        <translation>1/5</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Is cleared</translation>
+    </message>
+    <message>
+        <source>保留代码</source>
+        <translation>Keeps symbol</translation>
+    </message>
+    <message>
+        <source>保留代码价格</source>
+        <translation>Keeps symbol, price</translation>
+    </message>
+    <message>
+        <source>保留全部</source>
+        <translation>Keeps everything</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>光标在数字后</source>
+        <translation>Caret after digits</translation>
+    </message>
+    <message>
+        <source>全选数字</source>
+        <translation>Digits selected</translation>
+    </message>
+    <message>
+        <source>固定数量</source>
+        <translation>Fixed</translation>
+    </message>
+    <message>
+        <source>区间随机</source>
+        <translation>Random</translation>
+    </message>
+    <message>
+        <source>数量递减</source>
+        <translation>Decreasing</translation>
+    </message>
+    <message>
+        <source>限价委托</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>市价委托</source>
+        <translation>Market</translation>
+    </message>
+    <message>
+        <source>盘后定价</source>
+        <translation>After-hrs</translation>
+    </message>
+    <message>
+        <source>第一项</source>
+        <translation>First</translation>
+    </message>
+    <message>
+        <source>第二项</source>
+        <translation>Second</translation>
+    </message>
+    <message>
+        <source>第三项</source>
+        <translation>Third</translation>
+    </message>
+    <message>
+        <source>买入数量</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>买入金额</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>卖出数量</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>卖出金额</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>股票买入</source>
+        <translation>Buy</translation>
+    </message>
+    <message>
+        <source>股票卖出</source>
+        <translation>Sell</translation>
+    </message>
+    <message>
+        <source>资金股票</source>
+        <translation>Holdings</translation>
+    </message>
+    <message>
+        <source>限价买入</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>市价买入</source>
+        <translation>Market</translation>
+    </message>
+    <message>
+        <source>限价卖出</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>市价卖出</source>
+        <translation>Market</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>正常字体</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>大字体</source>
+        <translation>Large</translation>
+    </message>
+    <message>
+        <source>特大字体</source>
+        <translation>X-Large</translation>
+    </message>
+    <message>
+        <source>简体</source>
+        <translation>Simplified Chinese</translation>
+    </message>
+    <message>
+        <source>繁體</source>
+        <translation>Traditional Chinese</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>%1 股</source>
+        <translation>%1 shares</translation>
+    </message>
+    <message>
+        <source>上浮 %1%</source>
+        <translation>%1% above last</translation>
+    </message>
+    <message>
+        <source>%1 分钟</source>
+        <translation>%1 minutes</translation>
+    </message>
+    <message>
+        <source>买入股票</source>
+        <translation>Buy stock</translation>
+    </message>
+    <message>
+        <source>卖出股票</source>
+        <translation>Sell stock</translation>
+    </message>
+    <message>
+        <source>持仓</source>
+        <translation>Positions</translation>
+    </message>
+    <message>
+        <source>成交</source>
+        <translation>Executions</translation>
+    </message>
+    <message>
+        <source>委托</source>
+        <translation>Orders</translation>
+    </message>
+    <message>
+        <source>撤单</source>
+        <translation>Cancel order</translation>
+    </message>
+    <message>
+        <source>查询</source>
+        <translation>Query</translation>
+    </message>
+    <message>
+        <source>全撤</source>
+        <translation>Cancel all</translation>
+    </message>
+    <message>
+        <source>撤买</source>
+        <translation>Cancel buys</translation>
+    </message>
+    <message>
+        <source>撤卖</source>
+        <translation>Cancel sells</translation>
+    </message>
+    <message>
+        <source>撤最后</source>
+        <translation>Cancel last order</translation>
+    </message>
+    <message>
+        <source>批量下单-买入</source>
+        <translation>Batch order: buy</translation>
+    </message>
+    <message>
+        <source>批量下单-卖出</source>
+        <translation>Batch order: sell</translation>
+    </message>
+    <message>
+        <source>保留字段</source>
+        <translation>Reserved</translation>
+    </message>
+    <message>
+        <source>默认买入价格</source>
+        <translation>Default buy price</translation>
+    </message>
+    <message>
+        <source>默认卖出价格</source>
+        <translation>Default sell price</translation>
+    </message>
+    <message>
+        <source>默认买入数量</source>
+        <translation>Default buy quantity</translation>
+    </message>
+    <message>
+        <source>默认卖出数量</source>
+        <translation>Default sell quantity</translation>
+    </message>
+    <message>
+        <source>买卖后界面设置</source>
+        <translation>Order form after an order</translation>
+    </message>
+    <message>
+        <source>响应点击买卖盘数量</source>
+        <translation>Take quantities clicked in the order book</translation>
+    </message>
+    <message>
+        <source>买卖页面输入框默认状态</source>
+        <translation>Default state of input boxes</translation>
+    </message>
+    <message>
+        <source>撤单前需要确认</source>
+        <translation>Confirm before cancelling an order</translation>
+    </message>
+    <message>
+        <source>委托前需要确认</source>
+        <translation>Confirm before placing an order</translation>
+    </message>
+    <message>
+        <source>委托成功后弹出提示对话框</source>
+        <translation>Show a message after a successful order</translation>
+    </message>
+    <message>
+        <source>启用股票自动分仓</source>
+        <translation>Split large stock orders automatically</translation>
+    </message>
+    <message>
+        <source>分仓基量</source>
+        <translation>Split base quantity</translation>
+    </message>
+    <message>
+        <source>分仓拆单策略</source>
+        <translation>Split strategy</translation>
+    </message>
+    <message>
+        <source>分仓单笔上限</source>
+        <translation>Split maximum per order</translation>
+    </message>
+    <message>
+        <source>分仓单笔下限</source>
+        <translation>Split minimum per order</translation>
+    </message>
+    <message>
+        <source>分仓递减数量</source>
+        <translation>Split decrement</translation>
+    </message>
+    <message>
+        <source>启用科创板股票自动分仓</source>
+        <translation>Split large STAR-board orders automatically</translation>
+    </message>
+    <message>
+        <source>科创板分仓基量</source>
+        <translation>STAR split base quantity</translation>
+    </message>
+    <message>
+        <source>科创板拆单策略</source>
+        <translation>STAR split strategy</translation>
+    </message>
+    <message>
+        <source>科创板单笔上限</source>
+        <translation>STAR split maximum per order</translation>
+    </message>
+    <message>
+        <source>科创板单笔下限</source>
+        <translation>STAR split minimum per order</translation>
+    </message>
+    <message>
+        <source>科创板递减数量</source>
+        <translation>STAR split decrement</translation>
+    </message>
+    <message>
+        <source>科创板买入保护价选项</source>
+        <translation>STAR buy protection choices</translation>
+    </message>
+    <message>
+        <source>科创板卖出保护价选项</source>
+        <translation>STAR sell protection choices</translation>
+    </message>
+    <message>
+        <source>科创板买入保护价</source>
+        <translation>STAR buy protection</translation>
+    </message>
+    <message>
+        <source>科创板卖出保护价</source>
+        <translation>STAR sell protection</translation>
+    </message>
+    <message>
+        <source>买入时委托输入</source>
+        <translation>Buy orders entered by</translation>
+    </message>
+    <message>
+        <source>卖出时委托输入</source>
+        <translation>Sell orders entered by</translation>
+    </message>
+    <message>
+        <source>登录后默认页面</source>
+        <translation>Page after login</translation>
+    </message>
+    <message>
+        <source>界面不操作超过多久锁屏</source>
+        <translation>Idle time before locking</translation>
+    </message>
+    <message>
+        <source>默认买入方式</source>
+        <translation>Default buy order type</translation>
+    </message>
+    <message>
+        <source>默认卖出方式</source>
+        <translation>Default sell order type</translation>
+    </message>
+    <message>
+        <source>行情代码跟随委托代码</source>
+        <translation>Quote follows order symbol</translation>
+    </message>
+    <message>
+        <source>委托代码跟随行情代码</source>
+        <translation>Order follows quote symbol</translation>
+    </message>
+    <message>
+        <source>行情交易界面字体</source>
+        <translation>Interface font</translation>
+    </message>
+    <message>
+        <source>行情交易界面语言</source>
+        <translation>Interface language</translation>
+    </message>
+    <message>
+        <source>界面设置页</source>
+        <translation>Interface settings page</translation>
+    </message>
+    <message>
+        <source>普通交易快捷键</source>
+        <translation>Cash trading</translation>
+    </message>
+    <message>
+        <source>信用交易快捷键</source>
+        <translation>Margin trading</translation>
+    </message>
+    <message>
+        <source>%1 至 %2 的整数</source>
+        <translation>an integer from %1 to %2</translation>
+    </message>
+    <message>
+        <source>%1 个十六进制字节</source>
+        <translation>%1 bytes in hexadecimal</translation>
+    </message>
+    <message>
+        <source>文本</source>
+        <translation>text</translation>
+    </message>
+    <message>
+        <source>由客户端保留</source>
+        <translation>kept by the client</translation>
+    </message>
+    <message>
+        <source>未设置</source>
+        <translation>Not set</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Shown</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RecordModel</name>
+    <message>
+        <source>原为空</source>
+        <translation>was empty</translation>
+    </message>
+    <message>
+        <source>原为 %1</source>
+        <translation>was %1</translation>
+    </message>
+    <message>
+        <source>参数</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>字段</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>存储值</source>
+        <translation>Stored value</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>最近一次确认的修改</source>
+        <translation>Changed by the last confirm</translation>
+    </message>
+</context>
+<context>
+    <name>RecordStore</name>
+    <message>
+        <source>%1 的值 %2 无效（应为%3）</source>
+        <translation>%1 holds %2, which is not valid (expected %3)</translation>
+    </message>
+    <message>
+        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
+        <translation>%1 holds %2, which is not valid (expected an array of %3 elements)</translation>
+    </message>
+    <message>
+        <source>交易参数文件 %1 无法使用：</source>
+        <translation>The record %1 cannot be used:</translation>
+    </message>
+    <message>
+        <source>该文件无法移走，仍在原处。已使用默认值。</source>
+        <translation>The file could not be moved and is still in its place. Defaults are used.</translation>
+    </message>
+    <message>
+        <source>该文件已移至 %1。已使用默认值。</source>
+        <translation>The file was moved to %1. Defaults are used.</translation>
+    </message>
+    <message>
+        <source>无法读取：%1</source>
+        <translation>cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>是一个目录</source>
+        <translation>is a directory</translation>
+    </message>
+    <message>
+        <source>第 %1 字节处格式错误：%2</source>
+        <translation>malformed at byte %1: %2</translation>
+    </message>
+    <message>
+        <source>内容不是 JSON 对象</source>
+        <translation>is not a JSON object</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>无法移走不可用的文件 %1</source>
+        <translation>Cannot move the unusable file %1</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshots</name>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>设置窗口缺少 %1</source>
+        <translation>The settings window lacks %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>Cannot write %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModule</name>
+    <message>
+        <source>无法加载设置模块 %1：文件不存在</source>
+        <translation>Cannot load the settings module %1: the file does not exist</translation>
+    </message>
+    <message>
+        <source>无法加载设置模块 %1：%2</source>
+        <translation>Cannot load the settings module %1: %2</translation>
+    </message>
+    <message>
+        <source>无法加载设置模块 %1：缺少符号 %2</source>
+        <translation>Cannot load the settings module %1: it lacks the symbol %2</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+</context>
 </TS>

@@ -638,4 +638,783 @@
         <translation>與%1重複</translation>
     </message>
 </context>
+<context>
+    <name>Client</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+    <message>
+        <source>设置模块 %1 无法创建设置窗口</source>
+        <translation>設定模組 %1 無法建立設定視窗</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>没有可用的显示。可用 --screenshots 将设置窗口保存为图片。</source>
+        <translation>沒有可用的顯示器。可用 --screenshots 將設定視窗儲存為圖片。</translation>
+    </message>
+    <message>
+        <source>无法使用皮肤 %1</source>
+        <translation>無法使用外觀 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClientOptions</name>
+    <message>
+        <source>桌面证券交易客户端</source>
+        <translation>桌面證券交易用戶端</translation>
+    </message>
+    <message>
+        <source>将设置窗口的每一页按实际大小保存为 PNG 文件后退出。</source>
+        <translation>將設定視窗的每一頁以實際大小儲存為 PNG 檔案後結束。</translation>
+    </message>
+    <message>
+        <source>目录</source>
+        <translation>目錄</translation>
+    </message>
+    <message>
+        <source>以 JSON 格式输出交易参数后退出。</source>
+        <translation>以 JSON 格式輸出交易參數後結束。</translation>
+    </message>
+    <message>
+        <source>加载指定的设置模块，而不是随程序安装的模块。</source>
+        <translation>載入指定的設定模組，而不是隨程式安裝的模組。</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>使用指定的皮肤：皮肤名称或皮肤所在的目录。</source>
+        <translation>使用指定的外觀：外觀名稱或外觀所在的目錄。</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>外觀</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>多餘的參數：%1</translation>
+    </message>
+    <message>
+        <source>--screenshots 需要一个目录</source>
+        <translation>--screenshots 需要一個目錄</translation>
+    </message>
+</context>
+<context>
+    <name>FileReplace</name>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>無法寫入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Instance</name>
+    <message>
+        <source>无法使用 %1：%2</source>
+        <translation>無法使用 %1：%2</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>客户端已在运行（数据目录 %1）</source>
+        <translation>用戶端已在執行中（資料目錄 %1）</translation>
+    </message>
+    <message>
+        <source>无法读取重启程序 %1：%2</source>
+        <translation>無法讀取重新啟動程式 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>打开交易设置（%1）</source>
+        <translation>開啟交易設定（%1）</translation>
+    </message>
+    <message>
+        <source>退出(&amp;X)</source>
+        <translation>結束(&amp;X)</translation>
+    </message>
+    <message>
+        <source>关于(&amp;A)</source>
+        <translation>關於(&amp;A)</translation>
+    </message>
+    <message>
+        <source>系统(&amp;S)</source>
+        <translation>系統(&amp;S)</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>檢視(&amp;V)</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>外觀</translation>
+    </message>
+    <message>
+        <source>帮助(&amp;H)</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>工具栏</source>
+        <translation>工具列</translation>
+    </message>
+    <message>
+        <source>搜索参数、字段或数值</source>
+        <translation>搜尋參數、欄位或數值</translation>
+    </message>
+    <message>
+        <source>仅显示最近修改</source>
+        <translation>僅顯示最近修改</translation>
+    </message>
+    <message>
+        <source>交易参数</source>
+        <translation>交易參數</translation>
+    </message>
+    <message>
+        <source>尚未修改</source>
+        <translation>尚未修改</translation>
+    </message>
+    <message>
+        <source>参数文件：%1</source>
+        <translation>參數檔案：%1</translation>
+    </message>
+    <message>
+        <source>设置模块无法创建设置窗口。</source>
+        <translation>設定模組無法建立設定視窗。</translation>
+    </message>
+    <message>
+        <source>%1 已确认，没有修改</source>
+        <translation>%1 已確認，沒有修改</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已确认，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 已確認，修改了 %n 項</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>新的交易参数已生效，但未能保存：
+%1
+
+原文件未改动，退出客户端时将再次尝试保存。</source>
+        <translation>新的交易參數已生效，但未能儲存：
+%1
+
+原檔案未變更，結束用戶端時將再次嘗試儲存。</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>交易客户端 %1
+
+设置模块：%2
+数据目录：%3</source>
+        <translation>交易用戶端 %1
+
+設定模組：%2
+資料目錄：%3</translation>
+    </message>
+</context>
+<context>
+    <name>RecordFields</name>
+    <message>
+        <source>卖一</source>
+        <translation>賣一</translation>
+    </message>
+    <message>
+        <source>卖二</source>
+        <translation>賣二</translation>
+    </message>
+    <message>
+        <source>卖三</source>
+        <translation>賣三</translation>
+    </message>
+    <message>
+        <source>卖四</source>
+        <translation>賣四</translation>
+    </message>
+    <message>
+        <source>卖五</source>
+        <translation>賣五</translation>
+    </message>
+    <message>
+        <source>最新价</source>
+        <translation>最新價</translation>
+    </message>
+    <message>
+        <source>空</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>买一</source>
+        <translation>買一</translation>
+    </message>
+    <message>
+        <source>买二</source>
+        <translation>買二</translation>
+    </message>
+    <message>
+        <source>买三</source>
+        <translation>買三</translation>
+    </message>
+    <message>
+        <source>买四</source>
+        <translation>買四</translation>
+    </message>
+    <message>
+        <source>买五</source>
+        <translation>買五</translation>
+    </message>
+    <message>
+        <source>全仓</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>1/2</source>
+        <translation>1/2</translation>
+    </message>
+    <message>
+        <source>1/3</source>
+        <translation>1/3</translation>
+    </message>
+    <message>
+        <source>1/4</source>
+        <translation>1/4</translation>
+    </message>
+    <message>
+        <source>1/5</source>
+        <translation>1/5</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>保留代码</source>
+        <translation>保留代碼</translation>
+    </message>
+    <message>
+        <source>保留代码价格</source>
+        <translation>保留代碼價格</translation>
+    </message>
+    <message>
+        <source>保留全部</source>
+        <translation>全部保留</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>啟用</translation>
+    </message>
+    <message>
+        <source>光标在数字后</source>
+        <translation>游標在數字後</translation>
+    </message>
+    <message>
+        <source>全选数字</source>
+        <translation>全選數字</translation>
+    </message>
+    <message>
+        <source>固定数量</source>
+        <translation>固定數量</translation>
+    </message>
+    <message>
+        <source>区间随机</source>
+        <translation>區間隨機</translation>
+    </message>
+    <message>
+        <source>数量递减</source>
+        <translation>數量遞減</translation>
+    </message>
+    <message>
+        <source>限价委托</source>
+        <translation>限價委託</translation>
+    </message>
+    <message>
+        <source>市价委托</source>
+        <translation>市價委託</translation>
+    </message>
+    <message>
+        <source>盘后定价</source>
+        <translation>盤後定價</translation>
+    </message>
+    <message>
+        <source>第一项</source>
+        <translation>第一項</translation>
+    </message>
+    <message>
+        <source>第二项</source>
+        <translation>第二項</translation>
+    </message>
+    <message>
+        <source>第三项</source>
+        <translation>第三項</translation>
+    </message>
+    <message>
+        <source>买入数量</source>
+        <translation>買進數量</translation>
+    </message>
+    <message>
+        <source>买入金额</source>
+        <translation>買進金額</translation>
+    </message>
+    <message>
+        <source>卖出数量</source>
+        <translation>賣出數量</translation>
+    </message>
+    <message>
+        <source>卖出金额</source>
+        <translation>賣出金額</translation>
+    </message>
+    <message>
+        <source>股票买入</source>
+        <translation>股票買進</translation>
+    </message>
+    <message>
+        <source>股票卖出</source>
+        <translation>股票賣出</translation>
+    </message>
+    <message>
+        <source>资金股票</source>
+        <translation>資金庫存</translation>
+    </message>
+    <message>
+        <source>限价买入</source>
+        <translation>限價買進</translation>
+    </message>
+    <message>
+        <source>市价买入</source>
+        <translation>市價買進</translation>
+    </message>
+    <message>
+        <source>限价卖出</source>
+        <translation>限價賣出</translation>
+    </message>
+    <message>
+        <source>市价卖出</source>
+        <translation>市價賣出</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>正常字体</source>
+        <translation>正常字型</translation>
+    </message>
+    <message>
+        <source>大字体</source>
+        <translation>大字型</translation>
+    </message>
+    <message>
+        <source>特大字体</source>
+        <translation>特大字型</translation>
+    </message>
+    <message>
+        <source>简体</source>
+        <translation>簡體</translation>
+    </message>
+    <message>
+        <source>繁體</source>
+        <translation>繁體</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>%1 股</source>
+        <translation>%1 股</translation>
+    </message>
+    <message>
+        <source>上浮 %1%</source>
+        <translation>上浮 %1%</translation>
+    </message>
+    <message>
+        <source>%1 分钟</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>买入股票</source>
+        <translation>買進股票</translation>
+    </message>
+    <message>
+        <source>卖出股票</source>
+        <translation>賣出股票</translation>
+    </message>
+    <message>
+        <source>持仓</source>
+        <translation>庫存</translation>
+    </message>
+    <message>
+        <source>成交</source>
+        <translation>成交</translation>
+    </message>
+    <message>
+        <source>委托</source>
+        <translation>委託</translation>
+    </message>
+    <message>
+        <source>撤单</source>
+        <translation>刪單</translation>
+    </message>
+    <message>
+        <source>查询</source>
+        <translation>查詢</translation>
+    </message>
+    <message>
+        <source>全撤</source>
+        <translation>全部刪單</translation>
+    </message>
+    <message>
+        <source>撤买</source>
+        <translation>刪買單</translation>
+    </message>
+    <message>
+        <source>撤卖</source>
+        <translation>刪賣單</translation>
+    </message>
+    <message>
+        <source>撤最后</source>
+        <translation>刪最後一筆</translation>
+    </message>
+    <message>
+        <source>批量下单-买入</source>
+        <translation>批次下單-買進</translation>
+    </message>
+    <message>
+        <source>批量下单-卖出</source>
+        <translation>批次下單-賣出</translation>
+    </message>
+    <message>
+        <source>保留字段</source>
+        <translation>保留欄位</translation>
+    </message>
+    <message>
+        <source>默认买入价格</source>
+        <translation>預設買進價格</translation>
+    </message>
+    <message>
+        <source>默认卖出价格</source>
+        <translation>預設賣出價格</translation>
+    </message>
+    <message>
+        <source>默认买入数量</source>
+        <translation>預設買進數量</translation>
+    </message>
+    <message>
+        <source>默认卖出数量</source>
+        <translation>預設賣出數量</translation>
+    </message>
+    <message>
+        <source>买卖后界面设置</source>
+        <translation>買賣後介面設定</translation>
+    </message>
+    <message>
+        <source>响应点击买卖盘数量</source>
+        <translation>回應點擊五檔委買委賣數量</translation>
+    </message>
+    <message>
+        <source>买卖页面输入框默认状态</source>
+        <translation>買賣頁面輸入框預設狀態</translation>
+    </message>
+    <message>
+        <source>撤单前需要确认</source>
+        <translation>刪單前需要確認</translation>
+    </message>
+    <message>
+        <source>委托前需要确认</source>
+        <translation>委託前需要確認</translation>
+    </message>
+    <message>
+        <source>委托成功后弹出提示对话框</source>
+        <translation>委託成功後彈出提示對話框</translation>
+    </message>
+    <message>
+        <source>启用股票自动分仓</source>
+        <translation>啟用股票自動分單</translation>
+    </message>
+    <message>
+        <source>分仓基量</source>
+        <translation>分單基量</translation>
+    </message>
+    <message>
+        <source>分仓拆单策略</source>
+        <translation>分單策略</translation>
+    </message>
+    <message>
+        <source>分仓单笔上限</source>
+        <translation>分單單筆上限</translation>
+    </message>
+    <message>
+        <source>分仓单笔下限</source>
+        <translation>分單單筆下限</translation>
+    </message>
+    <message>
+        <source>分仓递减数量</source>
+        <translation>分單遞減數量</translation>
+    </message>
+    <message>
+        <source>启用科创板股票自动分仓</source>
+        <translation>啟用科創板股票自動分單</translation>
+    </message>
+    <message>
+        <source>科创板分仓基量</source>
+        <translation>科創板分單基量</translation>
+    </message>
+    <message>
+        <source>科创板拆单策略</source>
+        <translation>科創板分單策略</translation>
+    </message>
+    <message>
+        <source>科创板单笔上限</source>
+        <translation>科創板單筆上限</translation>
+    </message>
+    <message>
+        <source>科创板单笔下限</source>
+        <translation>科創板單筆下限</translation>
+    </message>
+    <message>
+        <source>科创板递减数量</source>
+        <translation>科創板遞減數量</translation>
+    </message>
+    <message>
+        <source>科创板买入保护价选项</source>
+        <translation>科創板買進保護價選項</translation>
+    </message>
+    <message>
+        <source>科创板卖出保护价选项</source>
+        <translation>科創板賣出保護價選項</translation>
+    </message>
+    <message>
+        <source>科创板买入保护价</source>
+        <translation>科創板買進保護價</translation>
+    </message>
+    <message>
+        <source>科创板卖出保护价</source>
+        <translation>科創板賣出保護價</translation>
+    </message>
+    <message>
+        <source>买入时委托输入</source>
+        <translation>買進時委託輸入</translation>
+    </message>
+    <message>
+        <source>卖出时委托输入</source>
+        <translation>賣出時委託輸入</translation>
+    </message>
+    <message>
+        <source>登录后默认页面</source>
+        <translation>登入後預設頁面</translation>
+    </message>
+    <message>
+        <source>界面不操作超过多久锁屏</source>
+        <translation>閒置多久後鎖定螢幕</translation>
+    </message>
+    <message>
+        <source>默认买入方式</source>
+        <translation>預設買進方式</translation>
+    </message>
+    <message>
+        <source>默认卖出方式</source>
+        <translation>預設賣出方式</translation>
+    </message>
+    <message>
+        <source>行情代码跟随委托代码</source>
+        <translation>行情代碼跟隨委託代碼</translation>
+    </message>
+    <message>
+        <source>委托代码跟随行情代码</source>
+        <translation>委託代碼跟隨行情代碼</translation>
+    </message>
+    <message>
+        <source>行情交易界面字体</source>
+        <translation>行情交易介面字型</translation>
+    </message>
+    <message>
+        <source>行情交易界面语言</source>
+        <translation>行情交易介面語言</translation>
+    </message>
+    <message>
+        <source>界面设置页</source>
+        <translation>介面設定頁</translation>
+    </message>
+    <message>
+        <source>普通交易快捷键</source>
+        <translation>普通交易快速鍵</translation>
+    </message>
+    <message>
+        <source>信用交易快捷键</source>
+        <translation>信用交易快速鍵</translation>
+    </message>
+    <message>
+        <source>%1 至 %2 的整数</source>
+        <translation>%1 至 %2 的整數</translation>
+    </message>
+    <message>
+        <source>%1 个十六进制字节</source>
+        <translation>%1 個十六進位位元組</translation>
+    </message>
+    <message>
+        <source>文本</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>由客户端保留</source>
+        <translation>由用戶端保留</translation>
+    </message>
+    <message>
+        <source>未设置</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>顯示</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>隱藏</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>RecordModel</name>
+    <message>
+        <source>原为空</source>
+        <translation>原為空</translation>
+    </message>
+    <message>
+        <source>原为 %1</source>
+        <translation>原為 %1</translation>
+    </message>
+    <message>
+        <source>参数</source>
+        <translation>參數</translation>
+    </message>
+    <message>
+        <source>字段</source>
+        <translation>欄位</translation>
+    </message>
+    <message>
+        <source>存储值</source>
+        <translation>儲存值</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>含義</translation>
+    </message>
+    <message>
+        <source>最近一次确认的修改</source>
+        <translation>最近一次確認的修改</translation>
+    </message>
+</context>
+<context>
+    <name>RecordStore</name>
+    <message>
+        <source>%1 的值 %2 无效（应为%3）</source>
+        <translation>%1 的值 %2 無效（應為%3）</translation>
+    </message>
+    <message>
+        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
+        <translation>%1 的值 %2 無效（應為 %3 個元素的陣列）</translation>
+    </message>
+    <message>
+        <source>交易参数文件 %1 无法使用：</source>
+        <translation>交易參數檔案 %1 無法使用：</translation>
+    </message>
+    <message>
+        <source>该文件无法移走，仍在原处。已使用默认值。</source>
+        <translation>該檔案無法移走，仍在原處。已使用預設值。</translation>
+    </message>
+    <message>
+        <source>该文件已移至 %1。已使用默认值。</source>
+        <translation>該檔案已移至 %1。已使用預設值。</translation>
+    </message>
+    <message>
+        <source>无法读取：%1</source>
+        <translation>無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>是一个目录</source>
+        <translation>是一個目錄</translation>
+    </message>
+    <message>
+        <source>第 %1 字节处格式错误：%2</source>
+        <translation>第 %1 位元組處格式錯誤：%2</translation>
+    </message>
+    <message>
+        <source>内容不是 JSON 对象</source>
+        <translation>內容不是 JSON 物件</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>无法移走不可用的文件 %1</source>
+        <translation>無法移走不可用的檔案 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshots</name>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>设置窗口缺少 %1</source>
+        <translation>設定視窗缺少 %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModule</name>
+    <message>
+        <source>无法加载设置模块 %1：文件不存在</source>
+        <translation>無法載入設定模組 %1：檔案不存在</translation>
+    </message>
+    <message>
+        <source>无法加载设置模块 %1：%2</source>
+        <translation>無法載入設定模組 %1：%2</translation>
+    </message>
+    <message>
+        <source>无法加载设置模块 %1：缺少符号 %2</source>
+        <translation>無法載入設定模組 %1：缺少符號 %2</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+</context>
 </TS>
