@@ -1299,6 +1299,15 @@ private Q_SLOTS:
             exact.DoClickMoreItem(false);
         QCOMPARE(exact.AddSeparator(10)->rect, QRectF(90, 0, 10, 40));
         QCOMPARE(exact.visibleCount, 4);
+        // An end item pushes the buttons exactly to the end of the third.
+        QCOMPARE(exact.AddSeparator(10, true)->rect, QRectF(128, 0, 10, 40));
+        QCOMPARE(exact.moreRect, QRectF(90, 0, 38, 40));
+        QCOMPARE(exact.visibleCount, 3);
+
+        // A separator of less than nothing makes room for an earlier item: 101 - 36 + 30 < 100.
+        scrolled.AddSeparator(-36);
+        QCOMPARE(scrolled.firstIndex, 35);
+        QCOMPARE(scrolled.visibleCount, 3);
     }
 
     void fillingABarTakesLinearTime_data()
