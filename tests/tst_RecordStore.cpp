@@ -3,6 +3,7 @@
 #include "client/RecordStore.h"
 #include "client/TradeCore.h"
 #include "support/TestMain.h"
+#include "support/Unprivileged.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -111,33 +112,6 @@ int memberOf(const TradeParm& record, const QByteArray& name)
 #undef MEMBER
     return -99;
 }
-
-// Permissions do not bind the superuser: becomes nobody, who owns the files, while it lives.
-class Unprivileged {
-public:
-    explicit Unprivileged(const QList<QByteArray>& files)
-    {
-        if (!m_wasSuperuser)
-            return;
-        constexpr uid_t nobody = 65534;
-        bool ok = true;
-        for (const QByteArray& file : files)
-            ok = ::chown(file.constData(), nobody, gid_t(-1)) == 0 && ok;
-        ok = ::seteuid(nobody) == 0 && ok;
-        if (!ok)
-            std::abort();
-    }
-    ~Unprivileged()
-    {
-        if (m_wasSuperuser && ::seteuid(0) != 0)
-            std::abort();
-    }
-    Unprivileged(const Unprivileged&) = delete;
-    Unprivileged& operator=(const Unprivileged&) = delete;
-
-private:
-    const bool m_wasSuperuser = geteuid() == 0;
-};
 
 const Field& field(const QByteArray& name) { return *RecordFields::find(QLatin1String(name)); }
 
@@ -537,14 +511,16 @@ void tst_RecordStore::setsAsideAnUnreadableThing()
 void tst_RecordStore::doesNotOverwriteWhatItCouldNotMove()
 {
     write("broken");
-    const QByteArray config = QFile::encodeName(m_home->filePath(QStringLiteral("config")));
-    const Unprivileged user(
-        {QFile::encodeName(m_home->path()), config, QFile::encodeName(m_directory->recordFile())});
-    QCOMPARE(::chmod(config.constData(), 0500), 0);
     OwnedRecord record;
-    const RecordStore::LoadReport report = m_store->load(record);
-    const QString failure = m_store->save(record);
-    QCOMPARE(::chmod(config.constData(), 0700), 0);
+    RecordStore::LoadReport report;
+    QString failure;
+    {
+        const QString config = m_home->filePath(QStringLiteral("config"));
+        const Unprivileged user({m_home->path(), config, m_directory->recordFile()});
+        const ReadOnly locked(config);
+        report = m_store->load(record);
+        failure = m_store->save(record);
+    }
     QVERIFY(!report.isClean());
     QCOMPARE(report.setAside, QString());
     QVERIFY(!failure.isEmpty());
