@@ -8,6 +8,8 @@ set(CPACK_STRIP_FILES ON)
 
 if(APPLE)
     set(CPACK_GENERATOR DragNDrop)
+    configure_file(cmake/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/Info.plist DESTINATION ${bundle})
 else()
     set(CPACK_GENERATOR DEB)
     set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

@@ -1,7 +1,12 @@
 # The installed SDK: headers, CMake package, pkg-config file.
 include(CMakePackageConfigHelpers)
 
-set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/tradeConfig)
+if(APPLE)
+    set(package_root lib)
+else()
+    set(package_root ${CMAKE_INSTALL_LIBDIR})
+endif()
+set(package_directory ${package_root}/cmake/tradeConfig)
 
 install(FILES
     tradeConfig/ITrade.h
@@ -22,8 +27,8 @@ install(FILES
     DESTINATION ${package_directory})
 
 file(RELATIVE_PATH PC_PREFIX_FROM_PCDIR
-    /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+    /prefix/${package_root}/pkgconfig /prefix)
 string(REGEX REPLACE "/$" "" PC_PREFIX_FROM_PCDIR "${PC_PREFIX_FROM_PCDIR}")
 configure_file(cmake/tradeConfig.pc.in ${PROJECT_BINARY_DIR}/tradeConfig.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tradeConfig.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    DESTINATION ${package_root}/pkgconfig)
