@@ -490,8 +490,10 @@ void Run::makeRecord(quint32 seed)
         const QChar letter = QLatin1Char(char('A' + entry));
         m_model.tables[0].cells[row] = m_model.tables[0].stored[row]
             = QStringLiteral("Ctrl+") + letter;
-        m_model.tables[1].cells[row] = m_model.tables[1].stored[row]
-            = QStringLiteral("Alt+") + letter;
+        // Keys that the user presses as well, so that some are pressed where they are already.
+        const QByteArray key = chords[row + 3].text;
+        m_trade.setText(&TradeParm::creditShortcuts, entry, key);
+        m_model.tables[1].cells[row] = m_model.tables[1].stored[row] = QString::fromUtf8(key);
     }
     m_model.record = recordOf(m_trade);
     m_reserved = m_trade.reservedBytes();
@@ -771,6 +773,9 @@ Actions makeActions(quint32 seed, int count)
             break;
         case Kind::Key:
             actions.push_back(Action{kind, pick(2), pick(13), pick(int(std::size(chords)))});
+            // The key that is there already has a rule of its own.
+            if (!pick(4))
+                actions.push_back(actions.back());
             break;
         case Kind::Confirm:
         case Kind::Cancel:

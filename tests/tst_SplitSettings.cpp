@@ -1042,7 +1042,12 @@ void tst_SplitSettings::riseFocusOrder()
     QVERIFY(rise.session.widget->inputValidity.isEmpty());
     rise.leave();
     rise.button.setFocus();
+    QList<QWidget*> visited;
+    const auto connection = connect(qApp, &QApplication::focusChanged,
+                                    [&visited](QWidget*, QWidget* now) { visited << now; });
     QTest::keyClick(&rise.button, Qt::Key_Space);
+    disconnect(connection);
+    QCOMPARE(visited, QList<QWidget*>{&rise.combo});
     QVERIFY(rise.combo.isEditable());
     QVERIFY(rise.combo.hasFocus());
     QVERIFY(rise.session.widget->inputValidity.isEmpty());
