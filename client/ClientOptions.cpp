@@ -19,7 +19,13 @@ ClientOptions ClientOptions::parse()
                                     tr("加载指定的设置模块，而不是随程序安装的模块。"), tr("文件"));
     const QCommandLineOption skin(QStringLiteral("skin"),
                                   tr("使用指定的皮肤：皮肤名称或皮肤所在的目录。"), tr("皮肤"));
-    parser.addOptions({screenshots, printRecord, skin, module});
+    const QCommandLineOption gallery(QStringLiteral("gallery"),
+                                     tr("展示所有自绘控件的每种模式和状态，而不打开客户端。"));
+    const QCommandLineOption scale(QStringLiteral("scale"),
+                                   tr("以指定的界面缩放（100 到 300）展示控件或保存图片，与 "
+                                      "--gallery 或 --screenshots 同用。"),
+                                   tr("百分比"));
+    parser.addOptions({screenshots, gallery, scale, printRecord, skin, module});
     parser.process(*QCoreApplication::instance());
 
     const auto refuse = [&parser](const QString& reason) {
@@ -34,6 +40,16 @@ ClientOptions ClientOptions::parse()
         refuse(tr("--screenshots 需要一个目录"));
     options.skin = parser.value(skin);
     options.module = parser.value(module);
+    options.gallery = parser.isSet(gallery);
+    if (parser.isSet(scale)) {
+        // A client that runs with a scale of its own would ignore the one that its user sets.
+        if (!options.gallery && !parser.isSet(screenshots))
+            refuse(tr("--scale 只能与 --gallery 或 --screenshots 同用"));
+        bool isNumber = false;
+        options.scalePercent = parser.value(scale).toInt(&isNumber);
+        if (!isNumber || options.scalePercent < 100 || options.scalePercent > 300)
+            refuse(tr("--scale 需要 100 到 300 的整数"));
+    }
     options.printRecord = parser.isSet(printRecord);
     return options;
 }

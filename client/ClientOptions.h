@@ -12,6 +12,8 @@ public:
     QString module; ///< empty: the one beside this program
     QString skin; ///< name or folder; empty: the one last chosen
     bool printRecord = false;
+    bool gallery = false; ///< the kit's widgets instead of the client
+    int scalePercent = 0; ///< 100..300; 0: the one of the settings
 
     /// Reads the arguments of the running application. Ends the process for --help and
     /// --version (status 0) and for arguments that it does not know (status 1).

@@ -1,5 +1,6 @@
 #include "ClientOptions.h"
 #include "DataDirectory.h"
+#include "Gallery.h"
 #include "Instance.h"
 #include "MainWindow.h"
 #include "Screenshots.h"
@@ -59,6 +60,13 @@ int fail(const QString& message)
     return EXIT_FAILURE;
 }
 
+int tellPictures(const ScreenshotResult& result)
+{
+    for (const QString& file : result.files)
+        std::printf("%s\n", qPrintable(file));
+    return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
+}
+
 int printRecord(const DataDirectory& directory)
 {
     TradeCore core(directory, TradeCore::Storage::None);
@@ -81,10 +89,17 @@ int writePages(const SettingsModule& module, const DataDirectory& directory, con
     const std::unique_ptr<QWidget> dialog(module.createDialog(&core));
     if (!dialog)
         return fail(Client::tr("设置模块 %1 无法创建设置窗口").arg(module.fileName()));
-    const ScreenshotResult result = writeScreenshots(*dialog, target);
-    for (const QString& file : result.files)
-        std::printf("%s\n", qPrintable(file));
-    return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
+    return tellPictures(writeScreenshots(*dialog, target));
+}
+
+int runGallery(SkinSwitcher& skins, const QString& target)
+{
+    Gallery gallery;
+    if (!target.isEmpty())
+        return tellPictures(gallery.writeScreenshots(target));
+    skins.fill(gallery.skinMenu());
+    gallery.show();
+    return QCoreApplication::exec();
 }
 
 int runClient(const SettingsModule& module, const DataDirectory& directory, SkinSwitcher& skins,
@@ -164,7 +179,8 @@ int main(int argc, char** argv)
     const DataDirectory directory(home);
     const StartSettings settings
         = moduleFailure.isEmpty() ? StartSettings::read(directory) : StartSettings();
-    auto scale = std::make_unique<InterfaceScale>(settings.scalePercent);
+    auto scale = std::make_unique<InterfaceScale>(options.scalePercent > 0 ? options.scalePercent
+                                                                           : settings.scalePercent);
     QApplication application(argc, argv);
     scale.reset();
     settings.installTranslations(&application);
@@ -177,6 +193,8 @@ int main(int argc, char** argv)
     SkinSwitcher skins(directory);
     if (!skins.start(options.skin))
         return fail(Client::tr("无法使用皮肤 %1").arg(options.skin));
+    if (options.gallery)
+        return runGallery(skins, options.screenshotDirectory);
     if (wantsPictures)
         return writePages(module, directory, options.screenshotDirectory);
     return runClient(module, directory, skins, arguments);

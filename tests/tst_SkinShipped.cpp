@@ -221,7 +221,7 @@ void tst_SkinShipped::builtInLightIsTheShippedOne()
         QCOMPARE(builtIn.readAll(), shipped.readAll());
         ++count;
     }
-    QCOMPARE(count, 6);
+    QCOMPARE(count, 18);
 }
 
 void tst_SkinShipped::paletteFollowsTheTable_data() { loadsWithoutProblems_data(); }
@@ -257,8 +257,13 @@ void tst_SkinShipped::textIsReadable_data()
         {"SwitchFgNormal", "SwitchBgNormal"},
         {"SwitchFgHover", "SwitchBgHover"},
         {"SwitchFgSelect", "SwitchBgSelect"},
+        // One mode fills no items: their texts stand on the bar.
         {"SwitchFgNormal", "SwitchBackground"},
         {"SwitchFgNormal", "FrameClient"},
+        {"SwitchFgHover", "SwitchBackground"},
+        {"SwitchFgHover", "FrameClient"},
+        {"SwitchFgSelect", "SwitchBackground"},
+        {"SwitchFgSelect", "FrameClient"},
         {"NavSwitchFgNormal", "NavSwitchBgNormal"},
         {"NavSwitchFgHover", "NavSwitchBgHover"},
         {"NavSwitchFgSelect", "NavSwitchBgSelect"},
