@@ -703,12 +703,507 @@ Change the values marked red until they turn green, then press OK again.</transl
         <source>--screenshots 需要一个目录</source>
         <translation>--screenshots needs a directory</translation>
     </message>
+    <message>
+        <source>展示所有自绘控件的每种模式和状态，而不打开客户端。</source>
+        <translation>Shows every skinned widget in every mode and state instead of opening the client.</translation>
+    </message>
+    <message>
+        <source>以指定的界面缩放（100 到 300）展示控件或保存图片，与 --gallery 或 --screenshots 同用。</source>
+        <translation>Shows the widgets or saves the pictures in this interface scale (100 to 300); together with --gallery or --screenshots.</translation>
+    </message>
+    <message>
+        <source>百分比</source>
+        <translation>percent</translation>
+    </message>
+    <message>
+        <source>--scale 只能与 --gallery 或 --screenshots 同用</source>
+        <translation>--scale needs --gallery or --screenshots beside it</translation>
+    </message>
+    <message>
+        <source>--scale 需要 100 到 300 的整数</source>
+        <translation>--scale needs a whole number from 100 to 300</translation>
+    </message>
 </context>
 <context>
     <name>FileReplace</name>
     <message>
         <source>无法写入 %1：%2</source>
         <translation>Cannot write %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery</name>
+    <message>
+        <source>列表</source>
+        <translation>List</translation>
+    </message>
+    <message>
+        <source>走势</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>时钟</source>
+        <translation>Clock</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>普通</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>悬停</source>
+        <translation>Hover</translation>
+    </message>
+    <message>
+        <source>选中</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>图</source>
+        <translation>Img</translation>
+    </message>
+    <message>
+        <source>末端</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>沪深</source>
+        <translation>SH/SZ</translation>
+    </message>
+    <message>
+        <source>创业</source>
+        <translation>GEM</translation>
+    </message>
+    <message>
+        <source>科创</source>
+        <translation>STAR</translation>
+    </message>
+    <message>
+        <source>北证</source>
+        <translation>BSE</translation>
+    </message>
+    <message>
+        <source>基金</source>
+        <translation>Funds</translation>
+    </message>
+    <message>
+        <source>债券</source>
+        <translation>Bonds</translation>
+    </message>
+    <message>
+        <source>港股</source>
+        <translation>HK</translation>
+    </message>
+    <message>
+        <source>期权</source>
+        <translation>Opts</translation>
+    </message>
+    <message>
+        <source>滚动到开头</source>
+        <translation>At the start</translation>
+    </message>
+    <message>
+        <source>滚动到中间</source>
+        <translation>In the middle</translation>
+    </message>
+    <message>
+        <source>滚动到结尾</source>
+        <translation>At the end</translation>
+    </message>
+    <message>
+        <source>背景开</source>
+        <translation>Ground on</translation>
+    </message>
+    <message>
+        <source>背景关</source>
+        <translation>Ground off</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>交易设置</source>
+        <translation>Trading</translation>
+    </message>
+    <message>
+        <source>快捷键设置</source>
+        <translation>Hotkeys</translation>
+    </message>
+    <message>
+        <source>横向切换栏</source>
+        <translation>Horizontal switch bar</translation>
+    </message>
+    <message>
+        <source>每种模式的普通、悬停、选中和菜单项，分隔线、图片项和末端项；放不下的项目由滚动按钮翻看。</source>
+        <translation>Normal, hovered, selected and menu items of each mode, separators, image items and end items; items that do not fit are reached by the scroll buttons.</translation>
+    </message>
+    <message>
+        <source>设置窗口的切换栏</source>
+        <translation>The switch bar of the settings window</translation>
+    </message>
+    <message>
+        <source>固定宽度 219，可操作</source>
+        <translation>Items 219 wide; live</translation>
+    </message>
+    <message>
+        <source>纵向切换栏</source>
+        <translation>Vertical switch bar</translation>
+    </message>
+    <message>
+        <source>同样的项目自上而下；平面按钮和导航模式每行写一个字，选中项右侧有一条线。</source>
+        <translation>The same items from top to bottom; the flat button and navigation modes write one character a line and draw a line at the right of the selected item.</translation>
+    </message>
+    <message>
+        <source>导航列表</source>
+        <translation>Navigation list</translation>
+    </message>
+    <message>
+        <source>选中的一行透出窗口的背景，鼠标所指的一行另有底色。</source>
+        <translation>The window&apos;s background shows through the selected row; the row under the mouse has a colour of its own.</translation>
+    </message>
+    <message>
+        <source>基础设置</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>联动设置</source>
+        <translation>Linking</translation>
+    </message>
+    <message>
+        <source>界面设置</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <source>选中第一行</source>
+        <translation>First selected</translation>
+    </message>
+    <message>
+        <source>选中第二行</source>
+        <translation>Second selected</translation>
+    </message>
+    <message>
+        <source>悬停在第三行</source>
+        <translation>Mouse over the third</translation>
+    </message>
+    <message>
+        <source>选中最后一行，悬停在第一行</source>
+        <translation>Last selected, mouse over the first</translation>
+    </message>
+    <message>
+        <source>空列表</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>可操作</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>徽标</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>标题</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>Minimize</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximize</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>标题栏</source>
+        <translation>Caption bar</translation>
+    </message>
+    <message>
+        <source>窗口的标志决定标题栏有哪些部分。</source>
+        <translation>The window&apos;s flags decide which parts a caption bar has.</translation>
+    </message>
+    <message>
+        <source>窗口标志的每种组合</source>
+        <translation>Every set of window flags</translation>
+    </message>
+    <message>
+        <source>窗口的种类和状态</source>
+        <translation>Kinds and states of the window</translation>
+    </message>
+    <message>
+        <source>非模态窗口</source>
+        <translation>Modeless window</translation>
+    </message>
+    <message>
+        <source>模态对话框</source>
+        <translation>Modal dialog</translation>
+    </message>
+    <message>
+        <source>已最大化：还原按钮</source>
+        <translation>Maximised: restore button</translation>
+    </message>
+    <message>
+        <source>不绘制背景</source>
+        <translation>No background</translation>
+    </message>
+    <message>
+        <source>隐藏标题</source>
+        <translation>Title hidden</translation>
+    </message>
+    <message>
+        <source>附加的控件</source>
+        <translation>A widget added</translation>
+    </message>
+    <message>
+        <source>1 · 单帧</source>
+        <translation>1 · one frame</translation>
+    </message>
+    <message>
+        <source>2 · 两帧</source>
+        <translation>2 · two frames</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：最小化</source>
+        <translation>3 · three frames: minimise</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：最大化</source>
+        <translation>3 · three frames: maximise</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：还原</source>
+        <translation>3 · three frames: restore</translation>
+    </message>
+    <message>
+        <source>4 · 四帧</source>
+        <translation>4 · four frames</translation>
+    </message>
+    <message>
+        <source>5 · 每种状态一张图片</source>
+        <translation>5 · an image for each state</translation>
+    </message>
+    <message>
+        <source>5 · 只有普通和悬停图片</source>
+        <translation>5 · normal and hover images only</translation>
+    </message>
+    <message>
+        <source>5 · 文字缩进 24</source>
+        <translation>5 · text indented by 24</translation>
+    </message>
+    <message>
+        <source>5 · 关闭按钮</source>
+        <translation>5 · close button</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>Pressed</translation>
+    </message>
+    <message>
+        <source>禁用</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>下单</source>
+        <translation>Order</translation>
+    </message>
+    <message>
+        <source>图片按钮</source>
+        <translation>Image button</translation>
+    </message>
+    <message>
+        <source>五种图片方式的四种状态；没有专用图片的状态由另一种状态代替。</source>
+        <translation>Four states of the five kinds of images; another state stands in for one that has no image of its own.</translation>
+    </message>
+    <message>
+        <source>方式与状态</source>
+        <translation>Kinds and states</translation>
+    </message>
+    <message>
+        <source>第 %1 行：委托已报，等待成交</source>
+        <translation>Line %1: order reported, waiting for a fill</translation>
+    </message>
+    <message>
+        <source>信息</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>参数已保存。</source>
+        <translation>The parameters have been saved.</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>行情连接已断开，正在重新连接。</source>
+        <translation>The quote connection was lost; reconnecting.</translation>
+    </message>
+    <message>
+        <source>错误</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>委托被拒绝：可用资金不足。</source>
+        <translation>Order rejected: not enough available funds.</translation>
+    </message>
+    <message>
+        <source>询问</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>界面设置已更改，是否立即重新启动？</source>
+        <translation>The interface settings have changed. Restart now?</translation>
+    </message>
+    <message>
+        <source>没有图标</source>
+        <translation>No icon</translation>
+    </message>
+    <message>
+        <source>没有图标的消息更窄、更矮。</source>
+        <translation>Without an icon a message is narrower and lower.</translation>
+    </message>
+    <message>
+        <source>倒计时</source>
+        <translation>Countdown</translation>
+    </message>
+    <message>
+        <source>窗口将自动关闭。</source>
+        <translation>This window closes by itself.</translation>
+    </message>
+    <message>
+        <source>没有按钮</source>
+        <translation>No button</translation>
+    </message>
+    <message>
+        <source>正在退出，请稍候。</source>
+        <translation>Quitting, please wait.</translation>
+    </message>
+    <message>
+        <source>很长的单词</source>
+        <translation>A very long word</translation>
+    </message>
+    <message>
+        <source>六个按钮</source>
+        <translation>Six buttons</translation>
+    </message>
+    <message>
+        <source>保存对交易参数的修改？</source>
+        <translation>Save the changes to the trade parameters?</translation>
+    </message>
+    <message>
+        <source>长文字</source>
+        <translation>A long text</translation>
+    </message>
+    <message>
+        <source>科创板股票的单笔申报数量不得少于 200 股，超过 200 股的部分可以以 1 股为单位递增；市价申报的单笔数量不得超过 5 万股，限价申报的单笔数量不得超过 10 万股。卖出时余额不足 200 股的部分，应当一次性申报卖出。</source>
+        <translation>An order for a STAR-board stock is for at least 200 shares and may grow by single shares beyond them; a market order is for at most 50,000 shares, a limit order for at most 100,000. A remainder of less than 200 shares must be sold at once.</translation>
+    </message>
+    <message>
+        <source>二十行文字</source>
+        <translation>Twenty lines</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+    <message>
+        <source>消息框</source>
+        <translation>Message box</translation>
+    </message>
+    <message>
+        <source>单击图片打开可操作的消息框。</source>
+        <translation>Click a picture to open the live box.</translation>
+    </message>
+    <message>
+        <source>图标、按钮与文字</source>
+        <translation>Icons, buttons and texts</translation>
+    </message>
+    <message>
+        <source>提示标签与按键单元格</source>
+        <translation>Tip label and hotkey cell</translation>
+    </message>
+    <message>
+        <source>错误用红色，正确用绿色；提示先停留 1.5 秒，再用 1 秒淡出。</source>
+        <translation>Red for an error, green for a correct value; a tip stays for 1.5 seconds and fades within one more.</translation>
+    </message>
+    <message>
+        <source>提示标签</source>
+        <translation>Tip label</translation>
+    </message>
+    <message>
+        <source>请输入 100 的整数倍</source>
+        <translation>Enter a multiple of 100</translation>
+    </message>
+    <message>
+        <source>输入正确</source>
+        <translation>Correct</translation>
+    </message>
+    <message>
+        <source>正确</source>
+        <translation>Correct</translation>
+    </message>
+    <message>
+        <source>正在淡出</source>
+        <translation>Fading away</translation>
+    </message>
+    <message>
+        <source>淡出至一半</source>
+        <translation>Half faded</translation>
+    </message>
+    <message>
+        <source>与全局快捷键冲突</source>
+        <translation>Taken by a global hotkey</translation>
+    </message>
+    <message>
+        <source>显示并淡出</source>
+        <translation>Show and fade</translation>
+    </message>
+    <message>
+        <source>按键单元格</source>
+        <translation>Hotkey cell</translation>
+    </message>
+    <message>
+        <source>空</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>已设置</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>提示与按键</source>
+        <translation>Tips and hotkeys</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>Skin</translation>
+    </message>
+    <message>
+        <source>控件展示</source>
+        <translation>Widget gallery</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>Cannot write %1</translation>
     </message>
 </context>
 <context>

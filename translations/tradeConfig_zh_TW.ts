@@ -703,12 +703,507 @@
         <source>--screenshots 需要一个目录</source>
         <translation>--screenshots 需要一個目錄</translation>
     </message>
+    <message>
+        <source>展示所有自绘控件的每种模式和状态，而不打开客户端。</source>
+        <translation>展示所有自繪控制項的每種模式和狀態，而不開啟用戶端。</translation>
+    </message>
+    <message>
+        <source>以指定的界面缩放（100 到 300）展示控件或保存图片，与 --gallery 或 --screenshots 同用。</source>
+        <translation>以指定的介面縮放（100 到 300）展示控制項或儲存圖片，與 --gallery 或 --screenshots 同用。</translation>
+    </message>
+    <message>
+        <source>百分比</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>--scale 只能与 --gallery 或 --screenshots 同用</source>
+        <translation>--scale 只能與 --gallery 或 --screenshots 同用</translation>
+    </message>
+    <message>
+        <source>--scale 需要 100 到 300 的整数</source>
+        <translation>--scale 需要 100 到 300 的整數</translation>
+    </message>
 </context>
 <context>
     <name>FileReplace</name>
     <message>
         <source>无法写入 %1：%2</source>
         <translation>無法寫入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery</name>
+    <message>
+        <source>列表</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>走势</source>
+        <translation>走勢</translation>
+    </message>
+    <message>
+        <source>时钟</source>
+        <translation>時鐘</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>選單</translation>
+    </message>
+    <message>
+        <source>普通</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>悬停</source>
+        <translation>懸停</translation>
+    </message>
+    <message>
+        <source>选中</source>
+        <translation>選取</translation>
+    </message>
+    <message>
+        <source>图</source>
+        <translation>圖</translation>
+    </message>
+    <message>
+        <source>末端</source>
+        <translation>末端</translation>
+    </message>
+    <message>
+        <source>沪深</source>
+        <translation>滬深</translation>
+    </message>
+    <message>
+        <source>创业</source>
+        <translation>創業</translation>
+    </message>
+    <message>
+        <source>科创</source>
+        <translation>科創</translation>
+    </message>
+    <message>
+        <source>北证</source>
+        <translation>北證</translation>
+    </message>
+    <message>
+        <source>基金</source>
+        <translation>基金</translation>
+    </message>
+    <message>
+        <source>债券</source>
+        <translation>債券</translation>
+    </message>
+    <message>
+        <source>港股</source>
+        <translation>港股</translation>
+    </message>
+    <message>
+        <source>期权</source>
+        <translation>期權</translation>
+    </message>
+    <message>
+        <source>滚动到开头</source>
+        <translation>捲動到開頭</translation>
+    </message>
+    <message>
+        <source>滚动到中间</source>
+        <translation>捲動到中間</translation>
+    </message>
+    <message>
+        <source>滚动到结尾</source>
+        <translation>捲動到結尾</translation>
+    </message>
+    <message>
+        <source>背景开</source>
+        <translation>背景開</translation>
+    </message>
+    <message>
+        <source>背景关</source>
+        <translation>背景關</translation>
+    </message>
+    <message>
+        <source>系统设置</source>
+        <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>交易设置</source>
+        <translation>交易設定</translation>
+    </message>
+    <message>
+        <source>快捷键设置</source>
+        <translation>快速鍵設定</translation>
+    </message>
+    <message>
+        <source>横向切换栏</source>
+        <translation>橫向切換列</translation>
+    </message>
+    <message>
+        <source>每种模式的普通、悬停、选中和菜单项，分隔线、图片项和末端项；放不下的项目由滚动按钮翻看。</source>
+        <translation>每種模式的普通、懸停、選取和選單項目，分隔線、圖片項目和末端項目；放不下的項目由捲動按鈕翻看。</translation>
+    </message>
+    <message>
+        <source>设置窗口的切换栏</source>
+        <translation>設定視窗的切換列</translation>
+    </message>
+    <message>
+        <source>固定宽度 219，可操作</source>
+        <translation>固定寬度 219，可操作</translation>
+    </message>
+    <message>
+        <source>纵向切换栏</source>
+        <translation>縱向切換列</translation>
+    </message>
+    <message>
+        <source>同样的项目自上而下；平面按钮和导航模式每行写一个字，选中项右侧有一条线。</source>
+        <translation>同樣的項目由上而下；平面按鈕和導覽模式每行寫一個字，選取項右側有一條線。</translation>
+    </message>
+    <message>
+        <source>导航列表</source>
+        <translation>導覽清單</translation>
+    </message>
+    <message>
+        <source>选中的一行透出窗口的背景，鼠标所指的一行另有底色。</source>
+        <translation>選取的一行透出視窗的背景，滑鼠所指的一行另有底色。</translation>
+    </message>
+    <message>
+        <source>基础设置</source>
+        <translation>基本設定</translation>
+    </message>
+    <message>
+        <source>联动设置</source>
+        <translation>連動設定</translation>
+    </message>
+    <message>
+        <source>界面设置</source>
+        <translation>介面設定</translation>
+    </message>
+    <message>
+        <source>选中第一行</source>
+        <translation>選取第一行</translation>
+    </message>
+    <message>
+        <source>选中第二行</source>
+        <translation>選取第二行</translation>
+    </message>
+    <message>
+        <source>悬停在第三行</source>
+        <translation>懸停在第三行</translation>
+    </message>
+    <message>
+        <source>选中最后一行，悬停在第一行</source>
+        <translation>選取最後一行，懸停在第一行</translation>
+    </message>
+    <message>
+        <source>空列表</source>
+        <translation>空清單</translation>
+    </message>
+    <message>
+        <source>可操作</source>
+        <translation>可操作</translation>
+    </message>
+    <message>
+        <source>徽标</source>
+        <translation>標誌</translation>
+    </message>
+    <message>
+        <source>标题</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>标题栏</source>
+        <translation>標題列</translation>
+    </message>
+    <message>
+        <source>窗口的标志决定标题栏有哪些部分。</source>
+        <translation>視窗的旗標決定標題列有哪些部分。</translation>
+    </message>
+    <message>
+        <source>窗口标志的每种组合</source>
+        <translation>視窗旗標的每種組合</translation>
+    </message>
+    <message>
+        <source>窗口的种类和状态</source>
+        <translation>視窗的種類和狀態</translation>
+    </message>
+    <message>
+        <source>非模态窗口</source>
+        <translation>非強制回應視窗</translation>
+    </message>
+    <message>
+        <source>模态对话框</source>
+        <translation>強制回應對話方塊</translation>
+    </message>
+    <message>
+        <source>已最大化：还原按钮</source>
+        <translation>已最大化：還原按鈕</translation>
+    </message>
+    <message>
+        <source>不绘制背景</source>
+        <translation>不繪製背景</translation>
+    </message>
+    <message>
+        <source>隐藏标题</source>
+        <translation>隱藏標題</translation>
+    </message>
+    <message>
+        <source>附加的控件</source>
+        <translation>附加的控制項</translation>
+    </message>
+    <message>
+        <source>1 · 单帧</source>
+        <translation>1 · 單格</translation>
+    </message>
+    <message>
+        <source>2 · 两帧</source>
+        <translation>2 · 兩格</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：最小化</source>
+        <translation>3 · 三格：最小化</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：最大化</source>
+        <translation>3 · 三格：最大化</translation>
+    </message>
+    <message>
+        <source>3 · 三帧：还原</source>
+        <translation>3 · 三格：還原</translation>
+    </message>
+    <message>
+        <source>4 · 四帧</source>
+        <translation>4 · 四格</translation>
+    </message>
+    <message>
+        <source>5 · 每种状态一张图片</source>
+        <translation>5 · 每種狀態一張圖片</translation>
+    </message>
+    <message>
+        <source>5 · 只有普通和悬停图片</source>
+        <translation>5 · 只有普通和懸停圖片</translation>
+    </message>
+    <message>
+        <source>5 · 文字缩进 24</source>
+        <translation>5 · 文字縮排 24</translation>
+    </message>
+    <message>
+        <source>5 · 关闭按钮</source>
+        <translation>5 · 關閉按鈕</translation>
+    </message>
+    <message>
+        <source>按下</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>禁用</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>下单</source>
+        <translation>下單</translation>
+    </message>
+    <message>
+        <source>图片按钮</source>
+        <translation>圖片按鈕</translation>
+    </message>
+    <message>
+        <source>五种图片方式的四种状态；没有专用图片的状态由另一种状态代替。</source>
+        <translation>五種圖片方式的四種狀態；沒有專用圖片的狀態由另一種狀態代替。</translation>
+    </message>
+    <message>
+        <source>方式与状态</source>
+        <translation>方式與狀態</translation>
+    </message>
+    <message>
+        <source>第 %1 行：委托已报，等待成交</source>
+        <translation>第 %1 行：委託已報，等待成交</translation>
+    </message>
+    <message>
+        <source>信息</source>
+        <translation>資訊</translation>
+    </message>
+    <message>
+        <source>参数已保存。</source>
+        <translation>參數已儲存。</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>行情连接已断开，正在重新连接。</source>
+        <translation>行情連線已中斷，正在重新連線。</translation>
+    </message>
+    <message>
+        <source>错误</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>委托被拒绝：可用资金不足。</source>
+        <translation>委託被拒絕：可用資金不足。</translation>
+    </message>
+    <message>
+        <source>询问</source>
+        <translation>詢問</translation>
+    </message>
+    <message>
+        <source>界面设置已更改，是否立即重新启动？</source>
+        <translation>介面設定已變更，是否立即重新啟動？</translation>
+    </message>
+    <message>
+        <source>没有图标</source>
+        <translation>沒有圖示</translation>
+    </message>
+    <message>
+        <source>没有图标的消息更窄、更矮。</source>
+        <translation>沒有圖示的訊息更窄、更矮。</translation>
+    </message>
+    <message>
+        <source>倒计时</source>
+        <translation>倒數計時</translation>
+    </message>
+    <message>
+        <source>窗口将自动关闭。</source>
+        <translation>視窗將自動關閉。</translation>
+    </message>
+    <message>
+        <source>没有按钮</source>
+        <translation>沒有按鈕</translation>
+    </message>
+    <message>
+        <source>正在退出，请稍候。</source>
+        <translation>正在結束，請稍候。</translation>
+    </message>
+    <message>
+        <source>很长的单词</source>
+        <translation>很長的單字</translation>
+    </message>
+    <message>
+        <source>六个按钮</source>
+        <translation>六個按鈕</translation>
+    </message>
+    <message>
+        <source>保存对交易参数的修改？</source>
+        <translation>儲存對交易參數的修改？</translation>
+    </message>
+    <message>
+        <source>长文字</source>
+        <translation>長文字</translation>
+    </message>
+    <message>
+        <source>科创板股票的单笔申报数量不得少于 200 股，超过 200 股的部分可以以 1 股为单位递增；市价申报的单笔数量不得超过 5 万股，限价申报的单笔数量不得超过 10 万股。卖出时余额不足 200 股的部分，应当一次性申报卖出。</source>
+        <translation>科創板股票的單筆申報數量不得少於 200 股，超過 200 股的部分可以以 1 股為單位遞增；市價申報的單筆數量不得超過 5 萬股，限價申報的單筆數量不得超過 10 萬股。賣出時餘額不足 200 股的部分，應當一次性申報賣出。</translation>
+    </message>
+    <message>
+        <source>二十行文字</source>
+        <translation>二十行文字</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+    <message>
+        <source>消息框</source>
+        <translation>訊息方塊</translation>
+    </message>
+    <message>
+        <source>单击图片打开可操作的消息框。</source>
+        <translation>按一下圖片開啟可操作的訊息方塊。</translation>
+    </message>
+    <message>
+        <source>图标、按钮与文字</source>
+        <translation>圖示、按鈕與文字</translation>
+    </message>
+    <message>
+        <source>提示标签与按键单元格</source>
+        <translation>提示標籤與按鍵儲存格</translation>
+    </message>
+    <message>
+        <source>错误用红色，正确用绿色；提示先停留 1.5 秒，再用 1 秒淡出。</source>
+        <translation>錯誤用紅色，正確用綠色；提示先停留 1.5 秒，再用 1 秒淡出。</translation>
+    </message>
+    <message>
+        <source>提示标签</source>
+        <translation>提示標籤</translation>
+    </message>
+    <message>
+        <source>请输入 100 的整数倍</source>
+        <translation>請輸入 100 的整數倍</translation>
+    </message>
+    <message>
+        <source>输入正确</source>
+        <translation>輸入正確</translation>
+    </message>
+    <message>
+        <source>正确</source>
+        <translation>正確</translation>
+    </message>
+    <message>
+        <source>正在淡出</source>
+        <translation>正在淡出</translation>
+    </message>
+    <message>
+        <source>淡出至一半</source>
+        <translation>淡出至一半</translation>
+    </message>
+    <message>
+        <source>与全局快捷键冲突</source>
+        <translation>與全域快捷鍵衝突</translation>
+    </message>
+    <message>
+        <source>显示并淡出</source>
+        <translation>顯示並淡出</translation>
+    </message>
+    <message>
+        <source>按键单元格</source>
+        <translation>按鍵儲存格</translation>
+    </message>
+    <message>
+        <source>空</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>已设置</source>
+        <translation>已設定</translation>
+    </message>
+    <message>
+        <source>提示与按键</source>
+        <translation>提示與按鍵</translation>
+    </message>
+    <message>
+        <source>视图(&amp;V)</source>
+        <translation>檢視(&amp;V)</translation>
+    </message>
+    <message>
+        <source>皮肤</source>
+        <translation>外觀</translation>
+    </message>
+    <message>
+        <source>控件展示</source>
+        <translation>控制項展示</translation>
+    </message>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>無法寫入 %1</translation>
     </message>
 </context>
 <context>
