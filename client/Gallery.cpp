@@ -156,6 +156,14 @@ constexpr int barThickness = 36; // of the sample images too
 constexpr int separatorThickness = 2;
 constexpr int columnItem = 62; // three characters, one under the other
 
+constexpr const char* endLabel = QT_TRANSLATE_NOOP("Gallery", "末端");
+constexpr const char* markets[] = {
+    QT_TRANSLATE_NOOP("Gallery", "沪深"), QT_TRANSLATE_NOOP("Gallery", "创业"),
+    QT_TRANSLATE_NOOP("Gallery", "科创"), QT_TRANSLATE_NOOP("Gallery", "北证"),
+    QT_TRANSLATE_NOOP("Gallery", "基金"), QT_TRANSLATE_NOOP("Gallery", "债券"),
+    QT_TRANSLATE_NOOP("Gallery", "港股"), QT_TRANSLATE_NOOP("Gallery", "期权"),
+};
+
 SwitchItem* addImage(CSwitchEx* bar, int index, const QString& label, bool atEnd = false)
 {
     const ImagePair& pair = images[std::size_t(index) % std::size(images)];
@@ -174,11 +182,19 @@ HeldSwitchBar* newBar(const ModeRow& row, Qt::Orientation orientation, int lengt
     return bar;
 }
 
+// One character a line is for Chinese: other languages do not fit.
+QString sampleText(const char* text, const ModeRow& row, Qt::Orientation orientation)
+{
+    return row.columns && orientation == Qt::Vertical ? QString::fromUtf8(text) : Sample::tr(text);
+}
+
 // Every kind and every state of an item.
 HeldSwitchBar* stateBar(const ModeRow& row, Qt::Orientation orientation, int length,
                         bool background)
 {
     HeldSwitchBar* const bar = newBar(row, orientation, length);
+    const auto text
+        = [&row, orientation](const char* label) { return sampleText(label, row, orientation); };
     SwitchItem* selected = nullptr;
     SwitchItem* hover = nullptr;
     if (row.imagesOnly) {
@@ -191,13 +207,13 @@ HeldSwitchBar* stateBar(const ModeRow& row, Qt::Orientation orientation, int len
     } else {
         auto* const menu = new QMenu(bar);
         menu->addAction(Sample::tr("菜单"));
-        bar->AddNormalSwitch(Sample::tr("普通"));
-        hover = bar->AddNormalSwitch(Sample::tr("悬停"));
-        selected = bar->AddNormalSwitch(Sample::tr("选中"));
-        bar->AddNormalSwitch(Sample::tr("菜单"), {}, false, menu);
+        bar->AddNormalSwitch(text(QT_TRANSLATE_NOOP("Gallery", "普通")));
+        hover = bar->AddNormalSwitch(text(QT_TRANSLATE_NOOP("Gallery", "悬停")));
+        selected = bar->AddNormalSwitch(text(QT_TRANSLATE_NOOP("Gallery", "选中")));
+        bar->AddNormalSwitch(text(QT_TRANSLATE_NOOP("Gallery", "菜单")), {}, false, menu);
         bar->AddSeparator(separatorThickness);
-        addImage(bar, 1, Sample::tr("图"));
-        bar->AddNormalSwitch(Sample::tr("末端"), {}, true);
+        addImage(bar, 1, text(QT_TRANSLATE_NOOP("Gallery", "图")));
+        bar->AddNormalSwitch(text(endLabel), {}, true);
         bar->AddSeparator(separatorThickness, true);
     }
     bar->setBackgroundColorEnable(background);
@@ -211,24 +227,24 @@ HeldSwitchBar* stateBar(const ModeRow& row, Qt::Orientation orientation, int len
 // More items than fit, scrolled forward.
 HeldSwitchBar* overflowBar(const ModeRow& row, Qt::Orientation orientation, int length, int clicks)
 {
+    constexpr int selectedIndex = 3;
     HeldSwitchBar* const bar = newBar(row, orientation, length);
     bar->changeMode(row.mode);
-    const QString labels[]
-        = {Sample::tr("沪深"), Sample::tr("创业"), Sample::tr("科创"), Sample::tr("北证"),
-           Sample::tr("基金"), Sample::tr("债券"), Sample::tr("港股"), Sample::tr("期权")};
     SwitchItem* selected = nullptr;
     int index = 0;
-    for (const QString& label : labels) {
+    for (const char* const market : markets) {
+        const QString label = sampleText(market, row, orientation);
         SwitchItem* const item
             = row.imagesOnly ? addImage(bar, index, label) : bar->AddNormalSwitch(label);
-        if (index == 3)
+        if (index == selectedIndex)
             selected = item;
         ++index;
     }
+    const QString end = sampleText(endLabel, row, orientation);
     if (row.imagesOnly)
-        addImage(bar, 2, Sample::tr("末端"), true);
+        addImage(bar, 2, end, true);
     else
-        bar->AddNormalSwitch(Sample::tr("末端"), {}, true);
+        bar->AddNormalSwitch(end, {}, true);
     bar->SetCurSel(selected, false);
     bar->scrollForward(clicks);
     return bar;
@@ -700,9 +716,9 @@ QWidget* hints()
                      Sample::tr("错误用红色，正确用绿色；提示先停留 1.5 秒，再用 1 秒淡出。"));
     page.section(Sample::tr("提示标签"));
     QHBoxLayout* shelf = page.shelf();
-    put(shelf, new CTipLabel(Sample::tr("请输入 100 的整数倍"), true, nullptr), Sample::tr("错误"));
-    put(shelf, new CTipLabel(Sample::tr("输入正确"), false, nullptr), Sample::tr("正确"));
-    auto* const fading = new CTipLabel(Sample::tr("正在淡出"), true, nullptr);
+    put(shelf, newTip(Sample::tr("请输入 100 的整数倍"), true), Sample::tr("错误"));
+    put(shelf, newTip(Sample::tr("输入正确"), false), Sample::tr("正确"));
+    CTipLabel* const fading = newTip(Sample::tr("正在淡出"), true);
     holdFade(*fading, 2000);
     put(shelf, fading, Sample::tr("淡出至一半"));
 

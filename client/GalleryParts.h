@@ -12,6 +12,8 @@
 
 /// A switch bar that stands still in a given state, whatever the mouse does.
 class HeldSwitchBar : public CSwitchEx {
+    Q_OBJECT
+
 public:
     HeldSwitchBar(Qt::Orientation barOrientation, QSize size, QWidget* parent = nullptr);
     ~HeldSwitchBar() override { ClearAll(); }
@@ -25,6 +27,8 @@ public:
 
 /// A navigation list that stands still in a given state.
 class HeldNavList : public CNavWidget {
+    Q_OBJECT
+
 public:
     explicit HeldNavList(const QStringList& entries, QWidget* parent = nullptr);
 
@@ -33,6 +37,8 @@ public:
 
 /// An image button that stands still in a given state.
 class HeldImageButton : public CImageButton {
+    Q_OBJECT
+
 public:
     explicit HeldImageButton(QWidget* parent = nullptr);
 
@@ -42,6 +48,8 @@ public:
 /// A message box that is looked at, not answered: it is laid out as when it is shown, and its
 /// countdown stands still.
 class HeldMessageBox : public CMessageBox {
+    Q_OBJECT
+
 public:
     using CMessageBox::CMessageBox;
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QSettings>
+#include <QWidget>
 
 using CorvelSkin::SkinLibrary;
 
@@ -59,4 +60,16 @@ void SkinSwitcher::choose(const QString& name)
     QSettings(m_directory.clientFile(), QSettings::IniFormat).setValue(skinKey(), name);
 }
 
-void SkinSwitcher::applyPalette() { QApplication::setPalette(SkinLibrary::instance()->palette()); }
+void SkinSwitcher::applyPalette()
+{
+    QApplication::setPalette(SkinLibrary::instance()->palette());
+    // A widget whose sheet sets one colour keeps the rest of the palette of that moment.
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* const widget : widgets) {
+        const QString sheet = widget->styleSheet();
+        if (sheet.isEmpty())
+            continue;
+        widget->setStyleSheet(QString());
+        widget->setStyleSheet(sheet);
+    }
+}

@@ -39,6 +39,7 @@ private slots:
     void screenshots_data();
     void screenshots();
     void screenshotsIntoAFile();
+    void galleryScreenshots();
 
     void secondInstance();
     void comesBackAfterAKill();
@@ -115,6 +116,15 @@ void tst_ClientCommandLine::refusesWhatItDoesNotKnow_data()
     QTest::newRow("argument") << QStringList{QStringLiteral("something")};
     QTest::newRow("no directory") << QStringList{QStringLiteral("--screenshots")};
     QTest::newRow("empty directory") << QStringList{QStringLiteral("--screenshots=")};
+    const auto scaled = [](const char* scale) {
+        return QStringList{QStringLiteral("--gallery"), QStringLiteral("--scale"),
+                           QString::fromLatin1(scale)};
+    };
+    QTest::newRow("scale too small") << scaled("99");
+    QTest::newRow("scale too large") << scaled("301");
+    QTest::newRow("scale no number") << scaled("large");
+    QTest::newRow("scale of the client")
+        << QStringList{QStringLiteral("--scale"), QStringLiteral("150")};
 }
 
 void tst_ClientCommandLine::refusesWhatItDoesNotKnow()
@@ -266,6 +276,33 @@ void tst_ClientCommandLine::screenshots()
     QCOMPARE(different.size(), 10);
     QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
              "taking pictures stores nothing");
+}
+
+void tst_ClientCommandLine::galleryScreenshots()
+{
+    write(QStringLiteral("config/system_settings.ini"), "[UI]\nscale=150\n");
+    const auto widths = [this](const QStringList& scale) {
+        const QString target = m_home->filePath(QStringLiteral("gallery"));
+        const Outcome outcome
+            = run(QStringList{QStringLiteral("--gallery"), QStringLiteral("--screenshots"), target}
+                  + scale);
+        QVector<int> result;
+        for (const QByteArray& file : outcome.output.trimmed().split('\n'))
+            result += QImage(QString::fromUtf8(file)).width();
+        return result;
+    };
+    const QVector<int> plain = widths({QStringLiteral("--scale"), QStringLiteral("100")});
+    QCOMPARE(plain.size(), 7);
+    const QVector<int> fromSettings = widths({});
+    const QVector<int> twice = widths({QStringLiteral("--scale"), QStringLiteral("200")});
+    for (int page = 0; page < plain.size(); ++page) {
+        // Texts are not exactly twice as wide.
+        QVERIFY(plain[page] > 400);
+        QVERIFY(qAbs(fromSettings[page] - plain[page] * 1.5) < plain[page] * 0.05);
+        QVERIFY(qAbs(twice[page] - plain[page] * 2) < plain[page] * 0.05);
+    }
+    QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
+             "the gallery stores nothing");
 }
 
 void tst_ClientCommandLine::screenshotsIntoAFile()

@@ -863,7 +863,7 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>选中的一行透出窗口的背景，鼠标所指的一行另有底色。</source>
-        <translation>The window&apos;s background shows through the selected row; the row under the mouse has a colour of its own.</translation>
+        <translation>The window&apos;s background shows through the selected row; the row under the mouse has a color of its own.</translation>
     </message>
     <message>
         <source>基础设置</source>
@@ -951,7 +951,7 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>已最大化：还原按钮</source>
-        <translation>Maximised: restore button</translation>
+        <translation>Maximized: restore button</translation>
     </message>
     <message>
         <source>不绘制背景</source>
@@ -975,11 +975,11 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>3 · 三帧：最小化</source>
-        <translation>3 · three frames: minimise</translation>
+        <translation>3 · three frames: minimize</translation>
     </message>
     <message>
         <source>3 · 三帧：最大化</source>
-        <translation>3 · three frames: maximise</translation>
+        <translation>3 · three frames: maximize</translation>
     </message>
     <message>
         <source>3 · 三帧：还原</source>
@@ -1175,7 +1175,7 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>空</source>
-        <translation>None</translation>
+        <translation>Empty</translation>
     </message>
     <message>
         <source>已设置</source>
