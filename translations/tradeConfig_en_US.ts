@@ -1415,7 +1415,7 @@ Data directory: %3</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation>Close</translation>
+        <translation>Off</translation>
     </message>
     <message>
         <source>启用</source>
@@ -1439,7 +1439,7 @@ Data directory: %3</translation>
     </message>
     <message>
         <source>数量递减</source>
-        <translation>Decreasing</translation>
+        <translation>Step-down</translation>
     </message>
     <message>
         <source>限价委托</source>
