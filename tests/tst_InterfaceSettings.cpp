@@ -146,6 +146,7 @@ private slots:
 
     void badFiles_data();
     void badFiles();
+    void firstBadFileIsKept();
     void directoryInItsPlace();
     void unwritableDirectory();
     void fullDisk_data();
@@ -296,15 +297,17 @@ void tst_InterfaceSettings::openedAnewEachTime()
 void tst_InterfaceSettings::badFiles_data()
 {
     QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("keptAside"); // what parses, however odd, is merged instead
     QByteArray bytes;
     for (int value = 0; value < 20000; ++value)
         bytes.append(char((value * 7919) >> 3));
-    QTest::newRow("bytes") << bytes;
-    QTest::newRow("zeros") << QByteArray(4096, '\0');
-    QTest::newRow("open section") << QByteArray("[UI\nlanguage");
-    QTest::newRow("no assignment") << QByteArray("[UI]\nlanguage\nscale\n");
-    QTest::newRow("one long line") << QByteArray(1000000, 'x');
-    QTest::newRow("bad escapes") << QByteArray("[UI]\nlanguage=\\x\nscale=@Variant(\\0\\0)\n");
+    QTest::newRow("bytes") << bytes << true;
+    QTest::newRow("zeros") << QByteArray(4096, '\0') << true;
+    QTest::newRow("open section") << QByteArray("[UI\nlanguage") << true;
+    QTest::newRow("no assignment") << QByteArray("[UI]\nlanguage\nscale\n") << true;
+    QTest::newRow("one long line") << QByteArray(1000000, 'x') << true;
+    QTest::newRow("bad escapes") << QByteArray("[UI]\nlanguage=\\x\nscale=@Variant(\\0\\0)\n")
+                                 << false;
 }
 
 void tst_InterfaceSettings::badFiles()
@@ -321,6 +324,20 @@ void tst_InterfaceSettings::badFiles()
     QCOMPARE(read(configFile()), content);
     InterfaceSettings::save(2, 145);
     QCOMPARE(InterfaceSettings::languageIndex(), 2);
+    QCOMPARE(InterfaceSettings::scale(), 145);
+    QTEST(QFileInfo::exists(configFile() + QStringLiteral(".bad")), "keptAside");
+    if (QFileInfo::exists(configFile() + QStringLiteral(".bad")))
+        QCOMPARE(read(configFile() + QStringLiteral(".bad")), content);
+}
+
+void tst_InterfaceSettings::firstBadFileIsKept()
+{
+    const QByteArray first("first\n");
+    write(configFile(), first);
+    InterfaceSettings::save(1, 150);
+    write(configFile(), "second\n");
+    InterfaceSettings::save(2, 145);
+    QCOMPARE(read(configFile() + QStringLiteral(".bad")), first);
     QCOMPARE(InterfaceSettings::scale(), 145);
 }
 

@@ -33,6 +33,22 @@ bool directoryHasRoomFor(const QString& path)
         && probe.size() == content.size();
 }
 
+/// Whether every line of the file is one that survives being read and written again. QSettings
+/// does not tell: it parses late, and a file that it has met before not at all.
+bool consistsOfSettings(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true; // nothing to lose that could be read
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        const bool section = line.startsWith('[') && line.endsWith(']');
+        if (!line.isEmpty() && !line.startsWith(';') && !section && !line.contains('='))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 namespace InterfaceSettings {
@@ -68,7 +84,7 @@ void save(int languageIndex, int scale)
     // A value set in vain would be read back as long as this process lives.
     if (!settings.isWritable() || !directoryHasRoomFor(path))
         return;
-    if (settings.status() == QSettings::FormatError)
+    if (!consistsOfSettings(path))
         QFile::copy(path, path + QStringLiteral(".bad"));
     settings.setValue(languageKey(), languageCode(languageIndex));
     settings.setValue(scaleKey(), scale);

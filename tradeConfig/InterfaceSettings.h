@@ -22,8 +22,8 @@ int languageIndex();
 int scale();
 
 /// Writes both values and forces the file to disk; where that cannot work, for want of room or of
-/// leave, the file stays as it is. A file that cannot be parsed is kept beside
-/// the new one with ".bad" appended to its name.
+/// leave, the file stays as it is. A file that holds anything but settings is kept beside the new
+/// one with ".bad" appended to its name, unless one is kept there already.
 void save(int languageIndex, int scale);
 
 } // namespace InterfaceSettings
