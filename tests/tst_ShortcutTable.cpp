@@ -177,6 +177,11 @@ private slots:
     void creditIgnoresItsOwnKey();
     void creditAloneWritesTheList();
 
+    void sendingEditorIsMarked_data() { bothTables(); }
+    void sendingEditorIsMarked();
+    void slotMarksItsRow_data() { bothTables(); }
+    void slotMarksItsRow();
+
     void setLineEditEnableLeavesTheRow();
 
 private:
@@ -421,7 +426,7 @@ void tst_ShortcutTable::freeKeyIsAccepted()
 void tst_ShortcutTable::everyRowStoresItsOwnKey()
 {
     QFETCH(bool, credit);
-    Side side(credit);
+    const Side side(credit);
     for (int row = 0; row < 13; ++row)
         side.capture(row, Qt::Key(Qt::Key_A + row), Qt::ControlModifier | Qt::AltModifier);
     for (int row = 0; row < 13; ++row)
@@ -461,7 +466,7 @@ void tst_ShortcutTable::duplicateIsRefused()
 void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
 {
     QFETCH(bool, credit);
-    Side side(credit);
+    const Side side(credit);
     side.texts[9] = QStringLiteral("Ctrl+Alt+Q");
     side.texts[6] = QStringLiteral("Ctrl+Alt+Q");
     side.capture(12, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
@@ -503,7 +508,7 @@ void tst_ShortcutTable::correctionEnablesAllAgain()
 void tst_ShortcutTable::comparisonIsExact()
 {
     QFETCH(bool, credit);
-    Side side(credit);
+    const Side side(credit);
     side.texts[0] = QStringLiteral("f7");
     side.texts[1] = QStringLiteral("F7 ");
     side.capture(4, Qt::Key_F7);
@@ -559,7 +564,7 @@ void tst_ShortcutTable::tablesAreNotCompared()
 void tst_ShortcutTable::confirmRefusesAnError()
 {
     QFETCH(bool, credit);
-    Side side(credit);
+    const Side side(credit);
     side.dialog->show();
     side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
     {
@@ -696,6 +701,33 @@ void tst_ShortcutTable::creditAloneWritesTheList()
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
     emit credit.editor(5).signal_editFinished(5, QString());
     QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
+}
+
+void tst_ShortcutTable::sendingEditorIsMarked()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    emit side.editor(3).signal_editFinished(5, side.texts.at(0));
+    QCOMPARE(side.editor(3).styleSheet(), red);
+    QCOMPARE(side.editor(5).styleSheet(), QStringLiteral("border:0px;"));
+    QCOMPARE(side.status(5), QStringLiteral("与买入股票重复"));
+    QCOMPARE(side.status(3), normal);
+    QVERIFY(!side.entry());
+    emit side.editor(3).signal_editFinished(5, QString());
+    QCOMPARE(side.editor(3).text(), QStringLiteral("空"));
+    QVERIFY(side.editor(5).text() != QStringLiteral("空"));
+}
+
+void tst_ShortcutTable::slotMarksItsRow()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    if (credit)
+        side.dialog->CellEditFinished2(5, QStringLiteral("Ctrl+7"));
+    else
+        side.dialog->CellEditFinished(5, QStringLiteral("Ctrl+7"));
+    QCOMPARE(side.editor(5).styleSheet(), green);
+    QVERIFY(side.entry());
 }
 
 void tst_ShortcutTable::setLineEditEnableLeavesTheRow()

@@ -530,7 +530,8 @@ void CTradeConfigWidget::keyCaptured(const ShortcutTable& table, QStringList& te
     const ShortcutTable::Check check = table.check(texts, row, text);
     if (check.verdict != ShortcutTable::Verdict::GlobalHotkey)
         texts[row] = text;
-    table.showVerdict(ui, row, text, check);
+    auto* const sending = qobject_cast<CTableLineEdit*>(sender());
+    table.showVerdict(ui, sending ? *sending : *table.editor(ui, row), row, text, check);
     if (check.verdict == ShortcutTable::Verdict::Emptied)
         return;
 

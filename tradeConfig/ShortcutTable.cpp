@@ -172,17 +172,17 @@ int ShortcutTable::firstDuplicate(const QStringList& texts, int row, const QStri
     return -1;
 }
 
-void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, int row, const QString& text,
-                                const Check& check) const
+void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, CTableLineEdit& captor, int row,
+                                const QString& text, const Check& check) const
 {
     const QTableWidget& widget = *(ui.*table);
     if (check.verdict == Verdict::Emptied) {
-        editor(ui, row)->setText(CTradeConfigWidget::tr("空"));
+        captor.setText(CTradeConfigWidget::tr("空"));
         return;
     }
 
     const bool accepted = check.verdict == Verdict::Accepted;
-    StyleMark::set(*editor(ui, row), accepted);
+    StyleMark::set(captor, accepted);
     QString status;
     if (accepted)
         status = CTradeConfigWidget::tr(normalStatus);

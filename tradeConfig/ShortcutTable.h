@@ -40,9 +40,9 @@ struct ShortcutTable {
     /// row's own entry in @p texts does not matter.
     Check check(const QStringList& texts, int row, const QString& text) const;
 
-    /// Colours the row's editor and sets its status for @p check.
-    void showVerdict(const Ui_CTradeConfigWidget& ui, int row, const QString& text,
-                     const Check& check) const;
+    /// Colours @p captor, the editor that captured @p text, and sets the row's status for @p check.
+    void showVerdict(const Ui_CTradeConfigWidget& ui, CTableLineEdit& captor, int row,
+                     const QString& text, const Check& check) const;
 
     /// Enables or disables the editors of every row except @p row.
     void setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, bool enable) const;
