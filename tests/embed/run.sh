@@ -20,3 +20,4 @@ done
 # What the tree compiles itself with is no concern of the project around it.
 ninja -C "$work" -t commands around | grep 'around.cpp.o -c' >"$work/command"
 ! grep -E -- '-D(QT_NO_(CAST|KEYWORDS|FOREACH|URL)|QT_USE_|QT_MESSAGELOG)|-Werror|-fvisibility' "$work/command"
+grep -q -- '-std=gnu++17' "$work/command" || { echo "the headers need C++17"; exit 1; }
