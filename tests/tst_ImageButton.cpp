@@ -25,6 +25,8 @@ private slots:
     void everyChangeRepaints();
     void drawsTextOverTheImage();
     void textIndentMovesTheCentre();
+    void textStandsInTheMiddle();
+    void disablingEndsThePress();
     void isAPushButtonToScreenReaders();
 };
 
@@ -344,6 +346,44 @@ void tst_ImageButton::textIndentMovesTheCentre()
     // The image still covers the whole button.
     QCOMPARE(painted(button),
              QStringList(QStringLiteral("drawImage 0,0,120,24 Strip 1 0 false false")));
+}
+
+void tst_ImageButton::textStandsInTheMiddle()
+{
+    // Even and odd, so that no edge can be a pixel off unseen.
+    for (const QSize size : {QSize(80, 24), QSize(81, 24), QSize(80, 25), QSize(81, 25)}) {
+        for (const int indent : {0, 9}) {
+            CImageButton button(nullptr);
+            button.resize(size);
+            QPixmap expected = button.grab();
+            QPainter painter(&expected);
+            painter.setPen(button.palette().color(QPalette::ButtonText));
+            painter.setFont(button.font());
+            painter.drawText(QRect(indent, 0, size.width() - indent, size.height()),
+                             Qt::AlignCenter, QStringLiteral("Hg"));
+            painter.end();
+
+            button.setText(QStringLiteral("Hg"));
+            button.setTextIndent(indent);
+            button.setShowText(true);
+            QCOMPARE(button.grab().toImage(), expected.toImage());
+        }
+    }
+}
+
+void tst_ImageButton::disablingEndsThePress()
+{
+    CImageButton button(nullptr);
+    button.resize(20, 20);
+    button.setSingleImage(QStringLiteral("Strip"), 4, false, false);
+    QTest::mousePress(&button, Qt::LeftButton);
+    QVERIFY(button.pressed);
+    button.setEnabled(false);
+    QVERIFY(!button.pressed);
+    QVERIFY(!button.isDown());
+    button.setEnabled(true);
+    QCOMPARE(painted(button),
+             QStringList(QStringLiteral("drawImage 0,0,20,20 Strip 4 0 false false")));
 }
 
 void tst_ImageButton::isAPushButtonToScreenReaders()

@@ -74,13 +74,6 @@ void CImageButton::leaveEvent(QEvent* event)
     update();
 }
 
-void CImageButton::changeEvent(QEvent* event)
-{
-    QPushButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        update();
-}
-
 int CImageButton::stripFrame() const
 {
     switch (imageMode) {

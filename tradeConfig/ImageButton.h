@@ -38,7 +38,6 @@ public slots:
 protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
     static constexpr int SeparateImages = 5;
