@@ -481,6 +481,7 @@ void CTradeConfigWidget::endRiseEdit(const RisePrice& price, const QString& text
 
 void CTradeConfigWidget::InitStockTable()
 {
+    stockEditors.clear();
     ShortcutTable::stock.build(ui, [this](CTableLineEdit* editor) {
         stockEditors << editor;
         connect(editor, &CTableLineEdit::signal_editFinished, this,
@@ -490,6 +491,7 @@ void CTradeConfigWidget::InitStockTable()
 
 void CTradeConfigWidget::InitCreditTable()
 {
+    creditEditors.clear();
     ShortcutTable::credit.build(ui, [this](CTableLineEdit* editor) {
         creditEditors << editor;
         connect(editor, &CTableLineEdit::signal_editFinished, this,
