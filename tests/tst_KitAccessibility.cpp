@@ -1,6 +1,8 @@
 #include "tradeConfig/NavWidget.h"
+#include "tradeConfig/NavWidgetAccessible.h"
 #include "tradeConfig/PartsAccessible.h"
 #include "tradeConfig/SwitchEx.h"
+#include "tradeConfig/SwitchExAccessible.h"
 
 #include "support/RecordingSkin.h"
 #include "support/TestMain.h"
@@ -290,6 +292,35 @@ private Q_SLOTS:
         QCOMPARE(nameOf(a), text("new"));
         QCOMPARE(list->child(0), a);
         QVERIFY(!e->isValid());
+    }
+
+    // Assistive technology may hold on to what describes a widget that is gone.
+    void describesAWidgetThatIsGone()
+    {
+        auto list = std::make_unique<CNavWidget>();
+        list->SetBtnList({text("a"), text("b")});
+        list->resize(100, 200);
+        NavWidgetAccessible ofList(list.get());
+        auto bar = std::make_unique<Bar>(nullptr, Qt::Horizontal, QMargins());
+        bar->resize(400, 40);
+        bar->AddNormalSwitch(text("a"));
+        SwitchExAccessible ofBar(bar.get());
+        for (PartsAccessible* const whole :
+             std::initializer_list<PartsAccessible*>{&ofList, &ofBar}) {
+            QVERIFY(whole->isValid());
+            QVERIFY(whole->childCount() > 0);
+            const QPoint inside = whole->widget()->mapToGlobal(QPoint(5, 5));
+            QVERIFY(whole->childAt(inside.x(), inside.y()));
+        }
+        list.reset();
+        bar.reset();
+        for (const PartsAccessible* const whole :
+             std::initializer_list<const PartsAccessible*>{&ofList, &ofBar}) {
+            QVERIFY(!whole->isValid());
+            QCOMPARE(whole->childCount(), 0);
+            QVERIFY(!whole->child(0));
+            QVERIFY(!whole->childAt(5, 5));
+        }
     }
 
     void addingItemsMovesNoIdentity()

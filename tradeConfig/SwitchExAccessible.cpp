@@ -56,7 +56,10 @@ SwitchItem* SwitchExAccessible::item(int key) const
     return key >= 0 ? bar()->items.value(key) : bar()->endItems.value(endKey(key));
 }
 
-int SwitchExAccessible::childCount() const { return bar()->items.size() + bar()->endItems.size(); }
+int SwitchExAccessible::childCount() const
+{
+    return isValid() ? bar()->items.size() + bar()->endItems.size() : 0;
+}
 
 int SwitchExAccessible::keyOf(int index) const
 {
