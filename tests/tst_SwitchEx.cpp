@@ -611,6 +611,17 @@ private Q_SLOTS:
         QCOMPARE(items[4]->rect, QRectF(0, 200, 40, 100));
     }
 
+    void aNarrowColumnGoesBackToItsFirstItem()
+    {
+        // Scrolled by one, 200 + 20 < 242 pulls even the first item of three back.
+        Bar bar(Qt::Vertical, QSize(20, 280));
+        bar.setItemSize(100);
+        bar.add(3);
+        bar.DoClickMoreItem(false);
+        QCOMPARE(bar.firstIndex, 0);
+        QCOMPARE(bar.visibleCount, 2);
+    }
+
     void severalItemsComeBackAtOnce()
     {
         Bar bar(Qt::Horizontal, QSize(138, 40));
@@ -1276,6 +1287,15 @@ private Q_SLOTS:
         QCOMPARE(bar.visibleCount, 43);
         bar.setItemSize(0);
         QCOMPARE(bar.visibleCount, 6); // measured: 50 each, 312 before the buttons
+
+        // The first main item beside many end items.
+        Bar ends(Qt::Horizontal, QSize(500, 40));
+        ends.setItemSize(10);
+        QCOMPARE(ends.add(40, "e", true)[39]->rect, QRectF(100, 0, 10, 40));
+        QCOMPARE(ends.visibleCount, 0);
+        QCOMPARE(ends.add(1)[0]->rect, QRectF(0, 0, 10, 40));
+        QCOMPARE(ends.add(1)[0]->rect, QRectF(10, 0, 10, 40));
+        QCOMPARE(ends.visibleCount, 2);
 
         // Scrolled to the end with room left, one more is shown at once, then no more.
         Bar scrolled(Qt::Horizontal, QSize(138, 40));
