@@ -68,7 +68,7 @@ void MainWindow::buildActions()
     auto* const settings
         = new QAction(style()->standardIcon(QStyle::SP_FileDialogDetailedView), tr("设置"), this);
     settings->setObjectName(QStringLiteral("action_settings"));
-    settings->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    settings->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
     settings->setToolTip(
         tr("打开交易设置（%1）").arg(settings->shortcut().toString(QKeySequence::NativeText)));
     connect(settings, &QAction::triggered, this, &MainWindow::openSettings);
