@@ -49,7 +49,8 @@ int scaleOfBands(const QPainter& painter, const QRectF& rect)
 void fillBands(QPainter& painter, const QRectF& rect, int scale, const QColor& colour)
 {
     // A stroke lies across its line; of an odd number of pixels, the middle one is on it.
-    const double before = (scale / 2) / double(scale);
+    const int pixelsBefore = scale / 2;
+    const double before = pixelsBefore / double(scale);
     const double x = rect.x() - before;
     const double y = rect.y() - before;
     const double w = rect.width();

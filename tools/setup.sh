@@ -7,7 +7,7 @@ build_packages=(
 )
 test_packages=(
     clang libgnustep-base-dev gobjc++ libbenchmark-dev
-    xvfb xauth openbox xdotool x11-utils binutils python3
+    xvfb xauth openbox xdotool x11-utils binutils file python3
 )
 
 say() { printf '== %s\n' "$*"; }

@@ -30,7 +30,7 @@ protected:
     void updateState(QAbstractAnimation::State newState,
                      QAbstractAnimation::State oldState) override
     {
-        QVariantAnimation::updateState(newState, oldState);
+        QVariantAnimation::updateState(newState, oldState); // NOLINT(bugprone-parent-virtual-call)
     }
 };
 
