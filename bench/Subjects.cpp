@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QHash>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSvgRenderer>
 #include <cstring>
 #include <memory>
@@ -281,8 +282,6 @@ QString skinFolder()
         + QStringLiteral("/../share/tradeConfig/skins/light");
 }
 
-const char* const skinImages[] = {"close", "logo", "maximize", "minimize", "restore"};
-
 Subject loadSkin()
 {
     const QString folder = skinFolder();
@@ -301,11 +300,10 @@ Subject loadSkinFiles()
             [folder, read] {
                 const auto table
                     = QJsonDocument::fromJson(read(folder + QStringLiteral("/skin.json")));
-                Q_UNUSED(table)
-                for (const char* const image : skinImages) {
-                    const QString path = folder + QStringLiteral("/images/") + QLatin1String(image)
-                        + QStringLiteral(".svg");
-                    const QSvgRenderer drawing(read(path));
+                const QJsonObject images = table.object()[QLatin1String("images")].toObject();
+                for (const auto& image : images) {
+                    const QString file = image.toObject()[QLatin1String("file")].toString();
+                    const QSvgRenderer drawing(read(folder + QLatin1Char('/') + file));
                     Q_UNUSED(drawing)
                 }
             },

@@ -30,22 +30,30 @@ std::atomic<long> liveBytes{0};
 std::atomic<long> liveBlocks{0};
 std::atomic<long> allocations{0};
 
-void* counted(void* block)
+// How many bytes were asked for stands in the last ones of the block. What the block could hold
+// would not do: it varies by 16 bytes with the hole that the block was found in.
+long* noteIn(void* block)
+{
+    return reinterpret_cast<long*>(static_cast<char*>(block) + malloc_usable_size(block)) - 1;
+}
+
+constexpr std::size_t noteBytes = sizeof(long);
+
+void* counted(void* block, std::size_t size)
 {
     if (block) {
-        liveBytes += long(malloc_usable_size(block));
+        *noteIn(block) = long(size);
+        liveBytes += long(size);
         ++liveBlocks;
         ++allocations;
     }
     return block;
 }
 
-void uncount(void* block)
+void uncount(long bytes)
 {
-    if (block) {
-        liveBytes -= long(malloc_usable_size(block));
-        --liveBlocks;
-    }
+    liveBytes -= bytes;
+    --liveBlocks;
 }
 
 } // namespace
@@ -53,24 +61,30 @@ void uncount(void* block)
 // Every allocation of the process, Qt's included, comes by here.
 extern "C" {
 
-void* malloc(std::size_t size) { return counted(__libc_malloc(size)); }
+void* malloc(std::size_t size) { return counted(__libc_malloc(size + noteBytes), size); }
 
-void* calloc(std::size_t count, std::size_t size) { return counted(__libc_calloc(count, size)); }
+void* calloc(std::size_t count, std::size_t size)
+{
+    std::size_t bytes = 0;
+    if (__builtin_mul_overflow(count, size, &bytes))
+        return nullptr;
+    return counted(__libc_calloc(1, bytes + noteBytes), bytes);
+}
 
 void* realloc(void* block, std::size_t size)
 {
-    const long before = block ? long(malloc_usable_size(block)) : 0;
-    void* const moved = __libc_realloc(block, size);
-    if (!moved && size != 0)
-        return nullptr;
-    liveBytes -= before;
-    liveBlocks -= block ? 1 : 0;
-    return counted(moved);
+    if (!block)
+        return malloc(size);
+    const long before = *noteIn(block);
+    void* const moved = __libc_realloc(block, size + noteBytes);
+    if (moved)
+        uncount(before);
+    return counted(moved, size);
 }
 
 void* memalign(std::size_t alignment, std::size_t size)
 {
-    return counted(__libc_memalign(alignment, size));
+    return counted(__libc_memalign(alignment, size + noteBytes), size);
 }
 
 void* aligned_alloc(std::size_t alignment, std::size_t size) { return memalign(alignment, size); }
@@ -83,7 +97,8 @@ int posix_memalign(void** block, std::size_t alignment, std::size_t size)
 
 void free(void* block)
 {
-    uncount(block);
+    if (block)
+        uncount(*noteIn(block));
     __libc_free(block);
 }
 
