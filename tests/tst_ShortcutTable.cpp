@@ -314,7 +314,6 @@ void tst_ShortcutTable::headerIsReadable()
 
         const QHeaderView& header = *table.horizontalHeader();
         const QImage window = dialog->grab().toImage();
-        window.save(QStringLiteral("/tmp/wt/dlgb-scratch/t.png"));
         const QPoint origin = header.mapTo(dialog.widget.get(), QPoint());
         for (int column = 0; column < 3; ++column) {
             // Inside the section's borders.

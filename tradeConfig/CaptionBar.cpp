@@ -221,7 +221,7 @@ void CCaptionBar::paintEvent(QPaintEvent*)
 
 bool CCaptionBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == window() && event->type() == QEvent::WindowStateChange)
+    if (maximizeButton && watched == window() && event->type() == QEvent::WindowStateChange)
         showMaximizeState();
     return QWidget::eventFilter(watched, event);
 }

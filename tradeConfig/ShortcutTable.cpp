@@ -202,8 +202,9 @@ void ShortcutTable::setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, b
 {
     const QTableWidget& widget = *(ui.*table);
     for (int other = 0; other < widget.rowCount(); ++other) {
-        if (other != row)
-            editor(ui, other)->setEnabled(enable);
+        CTableLineEdit* const cell = other == row ? nullptr : editor(ui, other);
+        if (cell)
+            cell->setEnabled(enable);
     }
 }
 
