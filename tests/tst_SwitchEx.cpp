@@ -269,6 +269,26 @@ private Q_SLOTS:
         Bar column(Qt::Vertical, QSize(40, 100), QMargins(9, 9, 9, 9));
         column.setItemSize(219);
         QCOMPARE(column.AddNormalSwitch(text("x"))->rect, QRectF(0, 0, 40, 219));
+
+        // Only 0 asks for measuring.
+        Bar negative(Qt::Horizontal, QSize(100, 40));
+        negative.setItemSize(-5);
+        RecordingSkin::takeMeasurements();
+        QCOMPARE(negative.AddNormalSwitch(text("x"))->rect.width(), -5.0);
+        QCOMPARE(RecordingSkin::takeMeasurements(), QStringList());
+    }
+
+    void itemsAreMeasuredInOrder()
+    {
+        Bar bar(Qt::Horizontal, QSize(300, 40));
+        bar.add(1, "end", true);
+        bar.add(2, "main");
+        RecordingSkin::takeMeasurements();
+        bar.SetPadding(QMarginsF(1, 1, 1, 1));
+        QCOMPARE(RecordingSkin::takeMeasurements(),
+                 (QStringList{text("textSize CSwitchEx Switch \"main0\""),
+                              text("textSize CSwitchEx Switch \"main1\""),
+                              text("textSize CSwitchEx Switch \"end0\"")}));
     }
 
     void imagesKeepWholePixels()

@@ -912,6 +912,9 @@ drawImage 3,4,23,30 picture 1 0 false false)");
         row("flat, selected", 3, Qt::Horizontal, "selected", R"(
 drawRect 2,3,24,32 SwitchBorder 1 1
 drawImage 3,4,23,30 chosen 1 0 false false)");
+        row("flat, menu", 3, Qt::Horizontal, "menu", R"(
+drawRect 2,3,24,32 SwitchBorder 1 1
+drawImage 3,4,23,30 picture 1 0 false false)");
         row("flat, column, normal", 3, Qt::Vertical, "", R"(
 drawRect 2,3,34,20 SwitchBorder 1 1
 drawImage 3,4,33,19 picture 1 0 false false)");
