@@ -83,7 +83,7 @@ void FloorList::paintEvent(QPaintEvent*)
 void FloorList::mousePressEvent(QMouseEvent* event)
 {
     m_selected = event->y() / 50;
-    emit pressed(m_selected);
+    Q_EMIT pressed(m_selected);
     update();
 }
 
@@ -162,7 +162,7 @@ void FloorBar::mousePressEvent(QMouseEvent* event)
 void FloorBar::mouseReleaseEvent(QMouseEvent* event)
 {
     if (indexAt(event->localPos()) == m_selected)
-        emit clicked(m_selected);
+        Q_EMIT clicked(m_selected);
 }
 
 void FloorBar::mouseMoveEvent(QMouseEvent* event)
@@ -185,5 +185,5 @@ void FloorKeyEdit::keyPressEvent(QKeyEvent* event)
 {
     setText(
         QKeySequence(event->key() + int(event->modifiers())).toString(QKeySequence::NativeText));
-    emit captured(text());
+    Q_EMIT captured(text());
 }

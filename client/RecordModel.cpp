@@ -48,7 +48,7 @@ void RecordModel::replace(QVector<Row> rows)
         return;
     }
     m_rows = std::move(rows);
-    emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
 int RecordModel::changeCount() const

@@ -33,7 +33,7 @@ void TradeCore::SaveTradeParm()
         if (failure.isEmpty())
             m_stored = m_record;
         else
-            emit storingFailed(failure);
+            Q_EMIT storingFailed(failure);
     }
-    emit committed();
+    Q_EMIT committed();
 }

@@ -49,7 +49,7 @@ public:
     TradeParm* GetTradeParm() override;
     void SaveTradeParm() override;
 
-signals:
+Q_SIGNALS:
     /// After every commit, whether storing worked or not.
     void committed();
     /// A commit could not be stored; the record in memory holds the new values.

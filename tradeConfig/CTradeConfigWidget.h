@@ -83,7 +83,7 @@ public:
     /// Never consumes an event.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-public slots:
+public Q_SLOTS:
     /// Confirm: saves everything and closes, or says that a marked value must be mended first.
     void WriteAllParm();
 

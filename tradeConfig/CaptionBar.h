@@ -38,7 +38,7 @@ public:
     /// Appends @p item behind the window buttons and takes ownership of it.
     void addCaptionItem(QLayoutItem* item);
 
-public slots:
+public Q_SLOTS:
     void clickMinimize();
     void clickMaximize();
 

@@ -31,7 +31,7 @@ public:
     /// Whether the button's text is drawn over the image.
     void setShowText(bool show);
 
-public slots:
+public Q_SLOTS:
     void onPressed();
     void onReleased();
 

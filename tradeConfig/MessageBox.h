@@ -35,7 +35,7 @@ public:
     /// A box with the buttons Yes and No.
     static int question(QWidget* parent, QMessageBox::Icon iconKind, const QString& text);
 
-public slots:
+public Q_SLOTS:
     /// Ends the dialog with @p button as its result.
     void onButtonClick(QMessageBox::StandardButton button);
 

@@ -53,5 +53,5 @@ void CTableLineEdit::keyPressEvent(QKeyEvent* event)
         return;
 
     setText(QKeySequence(key).toString(QKeySequence::NativeText));
-    emit signal_editFinished(row, text());
+    Q_EMIT signal_editFinished(row, text());
 }

@@ -16,11 +16,11 @@ public:
     /// @p row is the table row that this editor belongs to and reports.
     explicit CTableLineEdit(int row, QWidget* parent = nullptr);
 
-public slots:
+public Q_SLOTS:
     /// Deliberately empty: finishing an edit by Return or by leaving reports nothing.
     void EditFinished();
 
-signals:
+Q_SIGNALS:
     /// After every accepted key press, also when it repeats the key already shown.
     void signal_editFinished(int row, QString text);
 
