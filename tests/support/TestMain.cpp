@@ -1,5 +1,6 @@
 #include "TestMain.h"
 
+#include <QMetaObject>
 #include <clocale>
 
 namespace TestSupport {
@@ -16,6 +17,12 @@ void prepareEnvironment(const QString& home)
     QCoreApplication::setOrganizationDomain(QStringLiteral("kivotrade.com"));
     QCoreApplication::setApplicationName(QStringLiteral("tradeclient"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.2.3"));
+}
+
+void requireTests(const QMetaObject& testClass)
+{
+    if (testClass.methodCount() == testClass.methodOffset())
+        qFatal("%s has no test functions", testClass.className());
 }
 
 } // namespace TestSupport

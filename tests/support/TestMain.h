@@ -9,6 +9,9 @@ namespace TestSupport {
 /// Offscreen, UTF-8, and a home directory of this process's own. Call before QApplication.
 void prepareEnvironment(const QString& home);
 
+/// Ends the program if a test class has no test functions: it would pass.
+void requireTests(const QMetaObject& testClass);
+
 } // namespace TestSupport
 
 /// main() of a test: prepared environment, application, one test class.
@@ -19,5 +22,6 @@ void prepareEnvironment(const QString& home);
         TestSupport::prepareEnvironment(home.path());                                              \
         const QApplication application(argc, argv);                                                \
         TestClass test;                                                                            \
+        TestSupport::requireTests(*test.metaObject());                                             \
         return QTest::qExec(&test, argc, argv);                                                    \
     }
