@@ -96,6 +96,9 @@ constexpr Meaning languages[] = {
     {2, nullptr, QT_TRANSLATE_NOOP("RecordFields", "English")},
 };
 
+constexpr Meaning pageModes[] = {{2, nullptr, QT_TRANSLATE_NOOP("RecordFields", "显示")}};
+constexpr const char* otherPageMode = QT_TRANSLATE_NOOP("RecordFields", "隐藏");
+
 constexpr const char* shares = QT_TRANSLATE_NOOP("RecordFields", "%1 股");
 constexpr const char* percent = QT_TRANSLATE_NOOP("RecordFields", "上浮 %1%");
 constexpr const char* minutes = QT_TRANSLATE_NOOP("RecordFields", "%1 分钟");
@@ -210,11 +213,13 @@ Field reserved(const char* name, std::size_t offset, int size)
     return field;
 }
 
-// Only 2 has a meaning, but every number is allowed.
+// Only 2 shows the page, but every number is allowed.
 Field pageMode(const char* name, std::size_t offset, const char* title)
 {
-    Field field = number(name, offset, title, std::numeric_limits<int>::max(), nullptr, two);
+    Field field = choice(name, offset, title, pageModes, two);
     field.minimum = std::numeric_limits<int>::min();
+    field.maximum = std::numeric_limits<int>::max();
+    field.otherMeaning = otherPageMode;
     return field;
 }
 
@@ -467,11 +472,7 @@ QString meaning(const TradeParm& record, const Field& field, int index)
     }
     if (field.unit)
         return translated(field.unit).arg(value);
-    if (qstrcmp(field.name, "uiPageMode") == 0)
-        return integer(record, field, index) == 2
-            ? QCoreApplication::translate("RecordFields", "显示")
-            : QCoreApplication::translate("RecordFields", "隐藏");
-    return QString();
+    return field.otherMeaning ? translated(field.otherMeaning) : QString();
 }
 
 QString title(const Field& field, int index)

@@ -36,6 +36,7 @@ struct Field {
     int maximum = 0; ///< integers only, inclusive
     const Meaning* meanings = nullptr; ///< all there are, or null
     int meaningCount = 0;
+    const char* otherMeaning = nullptr; ///< of every value not in @c meanings, or null
     const char* unit = nullptr; ///< of a plain number, source language, or null
     const int* defaults = nullptr; ///< integers: @c count of them
     const char* const* textDefaults = nullptr; ///< texts: @c count of them

@@ -29,6 +29,7 @@ private slots:
     void showsEveryElement();
     void showsMeanings_data();
     void showsMeanings();
+    void everyOtherPageModeHides();
     void confirmStoresAndMarks();
     void nextConfirmMarksOnlyItsOwn();
     void cancelChangesNothing();
@@ -140,6 +141,16 @@ void tst_ClientWindow::showsMeanings()
     QFETCH(QString, meaning);
     QCOMPARE(cell(QTest::currentDataTag(), RecordModel::ValueColumn), value);
     QCOMPARE(cell(QTest::currentDataTag(), RecordModel::MeaningColumn), meaning);
+}
+
+void tst_ClientWindow::everyOtherPageModeHides()
+{
+    for (const int mode : {-7, 0, 1, 3}) {
+        m_core->GetTradeParm()->uiPageMode = mode;
+        m_window->model()->show(m_core->record());
+        QCOMPARE(cell("uiPageMode", RecordModel::ValueColumn), QString::number(mode));
+        QCOMPARE(cell("uiPageMode", RecordModel::MeaningColumn), QStringLiteral("隐藏"));
+    }
 }
 
 void tst_ClientWindow::confirmStoresAndMarks()
