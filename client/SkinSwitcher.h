@@ -14,7 +14,7 @@ public:
     explicit SkinSwitcher(const DataDirectory& directory, QObject* parent = nullptr);
 
     /// Makes a skin the active one for this run, by name or folder; empty: the one that was
-    /// last chosen. False if there is no such skin.
+    /// last chosen. False if there is no such skin; the built-in light one serves then.
     bool start(const QString& nameOrFolder);
 
     /// Fills @p menu with the skins. What is chosen there is remembered.

@@ -192,7 +192,8 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStringLiteral("Fusion"));
     SkinSwitcher skins(directory);
     if (!skins.start(options.skin))
-        return fail(Client::tr("无法使用皮肤 %1").arg(options.skin));
+        tell(QMessageBox::Warning,
+             Client::tr("无法使用皮肤 %1，已改用内置的浅色皮肤。").arg(options.skin));
     if (options.gallery)
         return runGallery(skins, options.screenshotDirectory);
     if (wantsPictures)

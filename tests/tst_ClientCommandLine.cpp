@@ -40,6 +40,8 @@ private slots:
     void screenshots();
     void screenshotsIntoAFile();
     void galleryScreenshots();
+    void skinThatCannotBeUsed_data();
+    void skinThatCannotBeUsed();
 
     void secondInstance();
     void comesBackAfterAKill();
@@ -303,6 +305,35 @@ void tst_ClientCommandLine::galleryScreenshots()
     }
     QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
              "the gallery stores nothing");
+}
+
+void tst_ClientCommandLine::skinThatCannotBeUsed_data()
+{
+    QTest::addColumn<bool>("hasTable");
+    QTest::newRow("no such folder") << false;
+    QTest::newRow("broken table") << true;
+}
+
+void tst_ClientCommandLine::skinThatCannotBeUsed()
+{
+    QFETCH(bool, hasTable);
+    const QString skin = data(QStringLiteral("skin"));
+    if (hasTable)
+        write(QStringLiteral("skin/skin.json"), "{");
+    const auto firstPage = [this](const QString& name, const QString& target) {
+        const Outcome outcome = run({QStringLiteral("--skin"), name,
+                                     QStringLiteral("--screenshots"), m_home->filePath(target)});
+        QImage image;
+        if (outcome.status == 0)
+            image.load(QString::fromUtf8(outcome.output.split('\n').first()));
+        return qMakePair(image, outcome.errors);
+    };
+    const auto substitute = firstPage(skin, QStringLiteral("substitute"));
+    QVERIFY2(substitute.second.contains(("无法使用皮肤 " + skin.toUtf8()).constData()),
+             substitute.second.constData());
+    const auto light = firstPage(QStringLiteral("light"), QStringLiteral("light"));
+    QVERIFY(!light.first.isNull());
+    QCOMPARE(substitute.first, light.first);
 }
 
 void tst_ClientCommandLine::screenshotsIntoAFile()

@@ -657,8 +657,8 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>There is no display. Use --screenshots to save the settings window as images.</translation>
     </message>
     <message>
-        <source>无法使用皮肤 %1</source>
-        <translation>Cannot use the skin %1</translation>
+        <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
+        <translation>The skin %1 cannot be used. The built-in light skin is used instead.</translation>
     </message>
 </context>
 <context>

@@ -657,8 +657,8 @@
         <translation>沒有可用的顯示器。可用 --screenshots 將設定視窗儲存為圖片。</translation>
     </message>
     <message>
-        <source>无法使用皮肤 %1</source>
-        <translation>無法使用外觀 %1</translation>
+        <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
+        <translation>無法使用外觀 %1，已改用內建的淺色外觀。</translation>
     </message>
 </context>
 <context>
