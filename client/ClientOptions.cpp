@@ -4,28 +4,51 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace {
+
+struct Parser : QCommandLineParser {
+    Parser()
+    {
+        setApplicationDescription(ClientOptions::tr("桌面证券交易客户端"));
+        addHelpOption();
+        addVersionOption();
+        addOptions({screenshots, gallery, scale, printRecord, skin, module});
+    }
+
+    const QCommandLineOption screenshots{
+        QStringLiteral("screenshots"),
+        ClientOptions::tr("将设置窗口的每一页按实际大小保存为 PNG 文件后退出。"),
+        ClientOptions::tr("目录")};
+    const QCommandLineOption printRecord{QStringLiteral("print-record"),
+                                         ClientOptions::tr("以 JSON 格式输出交易参数后退出。")};
+    const QCommandLineOption module{
+        QStringLiteral("module"), ClientOptions::tr("加载指定的设置模块，而不是随程序安装的模块。"),
+        ClientOptions::tr("文件")};
+    const QCommandLineOption skin{QStringLiteral("skin"),
+                                  ClientOptions::tr("使用指定的皮肤：皮肤名称或皮肤所在的目录。"),
+                                  ClientOptions::tr("皮肤")};
+    const QCommandLineOption gallery{
+        QStringLiteral("gallery"),
+        ClientOptions::tr("展示所有自绘控件的每种模式和状态，而不打开客户端。")};
+    const QCommandLineOption scale{
+        QStringLiteral("scale"),
+        ClientOptions::tr("以指定的界面缩放（100 到 300）展示控件或保存图片，与 "
+                          "--gallery 或 --screenshots 同用。"),
+        ClientOptions::tr("百分比")};
+};
+
+} // namespace
+
+QString ClientOptions::moduleFile()
+{
+    Parser parser;
+    parser.parse(QCoreApplication::arguments());
+    return parser.value(parser.module);
+}
+
 ClientOptions ClientOptions::parse()
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(tr("桌面证券交易客户端"));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
-                                         tr("将设置窗口的每一页按实际大小保存为 PNG 文件后退出。"),
-                                         tr("目录"));
-    const QCommandLineOption printRecord(QStringLiteral("print-record"),
-                                         tr("以 JSON 格式输出交易参数后退出。"));
-    const QCommandLineOption module(QStringLiteral("module"),
-                                    tr("加载指定的设置模块，而不是随程序安装的模块。"), tr("文件"));
-    const QCommandLineOption skin(QStringLiteral("skin"),
-                                  tr("使用指定的皮肤：皮肤名称或皮肤所在的目录。"), tr("皮肤"));
-    const QCommandLineOption gallery(QStringLiteral("gallery"),
-                                     tr("展示所有自绘控件的每种模式和状态，而不打开客户端。"));
-    const QCommandLineOption scale(QStringLiteral("scale"),
-                                   tr("以指定的界面缩放（100 到 300）展示控件或保存图片，与 "
-                                      "--gallery 或 --screenshots 同用。"),
-                                   tr("百分比"));
-    parser.addOptions({screenshots, gallery, scale, printRecord, skin, module});
+    Parser parser;
     parser.process(*QCoreApplication::instance());
 
     const auto refuse = [&parser](const QString& reason) {
@@ -35,21 +58,21 @@ ClientOptions ClientOptions::parse()
     if (!parser.positionalArguments().isEmpty())
         refuse(tr("多余的参数：%1").arg(parser.positionalArguments().join(QLatin1Char(' '))));
     ClientOptions options;
-    options.screenshotDirectory = parser.value(screenshots);
-    if (parser.isSet(screenshots) && options.screenshotDirectory.isEmpty())
+    options.screenshotDirectory = parser.value(parser.screenshots);
+    if (parser.isSet(parser.screenshots) && options.screenshotDirectory.isEmpty())
         refuse(tr("--screenshots 需要一个目录"));
-    options.skin = parser.value(skin);
-    options.module = parser.value(module);
-    options.gallery = parser.isSet(gallery);
-    if (parser.isSet(scale)) {
+    options.skin = parser.value(parser.skin);
+    options.module = parser.value(parser.module);
+    options.gallery = parser.isSet(parser.gallery);
+    if (parser.isSet(parser.scale)) {
         // A client that runs with a scale of its own would ignore the one that its user sets.
-        if (!options.gallery && !parser.isSet(screenshots))
+        if (!options.gallery && !parser.isSet(parser.screenshots))
             refuse(tr("--scale 只能与 --gallery 或 --screenshots 同用"));
         bool isNumber = false;
-        options.scalePercent = parser.value(scale).toInt(&isNumber);
+        options.scalePercent = parser.value(parser.scale).toInt(&isNumber);
         if (!isNumber || options.scalePercent < 100 || options.scalePercent > 300)
             refuse(tr("--scale 需要 100 到 300 的整数"));
     }
-    options.printRecord = parser.isSet(printRecord);
+    options.printRecord = parser.isSet(parser.printRecord);
     return options;
 }

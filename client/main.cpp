@@ -67,6 +67,20 @@ int tellPictures(const ScreenshotResult& result)
     return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
 }
 
+// The data directory as the module sees it; when that one failed, as the program's own does, if
+// there is one: what failed is told in the user's language. Empty if nobody knows.
+QString homeOf(const SettingsModule& module, const QString& moduleFailure)
+{
+    SettingsModule own;
+    if (!moduleFailure.isEmpty() && !own.load().isEmpty())
+        return QString();
+    const QString home = (moduleFailure.isEmpty() ? module : own).homePath();
+    // The question has made the directory. Whoever only asks for help leaves nothing behind; a
+    // directory that holds something stays.
+    QDir().rmdir(home);
+    return home;
+}
+
 int printRecord(const DataDirectory& directory)
 {
     TradeCore core(directory, TradeCore::Storage::None);
@@ -144,41 +158,46 @@ int main(int argc, char** argv)
     setIdentity();
     ensureEncoding();
 
-    // The scale must be known before the interface exists, and with it the arguments, the
-    // module and the data directory: a first application object without an interface finds them.
+    // Scale and language must be known before the interface exists, and with them the arguments,
+    // the module and the data directory: a first application object without an interface finds
+    // them.
     ClientOptions options;
     SettingsModule module;
     QString moduleFailure;
     QStringList arguments;
     QString home;
+    StartSettings settings;
     {
-        const QCoreApplication early(argc, argv);
-        options = ClientOptions::parse();
+        QCoreApplication early(argc, argv);
         arguments = QCoreApplication::arguments().mid(1);
-        moduleFailure = module.load(options.module);
-        if (moduleFailure.isEmpty()) {
-            home = module.homePath();
-            if (options.printRecord)
-                return printRecord(DataDirectory(home));
+        const QString moduleFile = ClientOptions::moduleFile();
+        moduleFailure = module.load(moduleFile);
+        home = homeOf(module, moduleFailure);
+        if (!home.isEmpty()) {
+            settings = StartSettings::read(DataDirectory(home));
+            settings.installTranslations(&early);
+        }
+
+        options = ClientOptions::parse();
+        if (!moduleFailure.isEmpty())
+            moduleFailure = module.load(moduleFile); // why, in the user's language
+        const bool wantsPictures = !options.screenshotDirectory.isEmpty();
+        const bool hasDisplay = CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
+            || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+        if (!moduleFailure.isEmpty() && (options.printRecord || wantsPictures || !hasDisplay))
+            return fail(moduleFailure);
+        if (options.printRecord)
+            return printRecord(DataDirectory(home));
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+            if (wantsPictures)
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+            else if (!hasDisplay)
+                return fail(
+                    Client::tr("没有可用的显示。可用 --screenshots 将设置窗口保存为图片。"));
         }
     }
 
-    const bool platformIsChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool hasDisplay = CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
-        || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    const bool wantsPictures = !options.screenshotDirectory.isEmpty();
-    if (!moduleFailure.isEmpty() && (options.printRecord || wantsPictures || !hasDisplay))
-        return fail(moduleFailure);
-    if (!platformIsChosen) {
-        if (wantsPictures)
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        else if (!hasDisplay)
-            return fail(Client::tr("没有可用的显示。可用 --screenshots 将设置窗口保存为图片。"));
-    }
-
     const DataDirectory directory(home);
-    const StartSettings settings
-        = moduleFailure.isEmpty() ? StartSettings::read(directory) : StartSettings();
     auto scale = std::make_unique<InterfaceScale>(options.scalePercent > 0 ? options.scalePercent
                                                                            : settings.scalePercent);
     QApplication application(argc, argv);
@@ -196,7 +215,7 @@ int main(int argc, char** argv)
              Client::tr("无法使用皮肤 %1，已改用内置的浅色皮肤。").arg(options.skin));
     if (options.gallery)
         return runGallery(skins, options.screenshotDirectory);
-    if (wantsPictures)
+    if (!options.screenshotDirectory.isEmpty())
         return writePages(module, directory, options.screenshotDirectory);
     return runClient(module, directory, skins, arguments);
 }

@@ -32,6 +32,8 @@ private slots:
     void moduleThatIsNoLibrary();
     void moduleWithoutTheSymbol();
     void withoutADisplay();
+    void speaksTheChosenLanguage_data();
+    void speaksTheChosenLanguage();
 
     void printsTheDefaults();
     void printsTheStoredRecord();
@@ -194,6 +196,35 @@ void tst_ClientCommandLine::withoutADisplay()
     const Outcome outcome = run({});
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.contains("--screenshots"), outcome.errors.constData());
+}
+
+void tst_ClientCommandLine::speaksTheChosenLanguage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char* tag, const QStringList& arguments, const char* expected) {
+        QTest::newRow(tag) << arguments << QByteArray(expected);
+    };
+    const QString module = QStringLiteral("--module");
+    row("help", {QStringLiteral("--help")}, "Print the trading parameters as JSON and quit.");
+    row("surplus argument", {QStringLiteral("something")}, "Unexpected argument: something");
+    row("missing module", {module, QStringLiteral("/no/such.so")}, "the file does not exist");
+    row("module without the symbol", {module, QStringLiteral(LIBRARY_WITHOUT_FACTORY)},
+        "it lacks the symbol CreateModuleWidget");
+    row("no display", {}, "There is no display.");
+    row("wrong value", {QStringLiteral("--print-record")},
+        "lockMinutes holds -5, which is not valid (expected an integer from 0 to 1000)");
+}
+
+void tst_ClientCommandLine::speaksTheChosenLanguage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, expected);
+    write(QStringLiteral("config/system_settings.ini"), "[UI]\nlanguage=en_US\n");
+    write(QStringLiteral("config/trade_parameters.json"), R"({"lockMinutes": -5})");
+    const Outcome outcome = run(arguments);
+    const QByteArray said = outcome.output + outcome.errors;
+    QVERIFY2(said.contains(expected), said.constData());
 }
 
 void tst_ClientCommandLine::printsTheDefaults()
