@@ -164,6 +164,7 @@ void MainWindow::openSettings()
             return;
         }
         m_settings = new SettingsWindow(dialog, this);
+        connect(m_settings, &SettingsWindow::closed, this, &MainWindow::showUncommitted);
     }
     m_settings->show();
     m_settings->raise();
@@ -178,6 +179,16 @@ void MainWindow::showCommit()
         m_model->changeCount() == 0
             ? tr("%1 已确认，没有修改").arg(time)
             : tr("%1 已确认，修改了 %n 项", nullptr, m_model->changeCount()).arg(time));
+}
+
+// Some edits reach the record without a confirm.
+void MainWindow::showUncommitted()
+{
+    const int count = m_model->addChanges(m_core.record());
+    if (count == 0)
+        return;
+    const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+    m_summary->setText(tr("%1 未经确认，修改了 %n 项", nullptr, count).arg(time));
 }
 
 void MainWindow::showStoringFailure(const QString& reason)

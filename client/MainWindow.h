@@ -13,7 +13,7 @@ class SettingsModule;
 class SettingsWindow;
 class TradeCore;
 
-/// Shows only the rows that match a text, or only those that the last confirm changed.
+/// Shows only the rows that match a text, or only those that changed last.
 class RecordFilter : public QSortFilterProxyModel {
     Q_OBJECT
 
@@ -48,6 +48,7 @@ private:
     void buildActions();
     void buildView();
     void showCommit();
+    void showUncommitted();
     void showStoringFailure(const QString& reason);
     void showAbout();
 

@@ -26,17 +26,37 @@ QVector<RecordModel::Row> RecordModel::rowsOf(const OwnedRecord& record)
 
 void RecordModel::show(const OwnedRecord& record) { replace(rowsOf(record)); }
 
-void RecordModel::showChanges(const OwnedRecord& record)
+int RecordModel::markChanges(QVector<Row>& rows) const
 {
-    QVector<Row> rows = rowsOf(record);
+    int count = 0;
     for (int i = 0; i < rows.size() && i < m_rows.size(); ++i) {
         const Row& before = m_rows.at(i);
         if (before.value == rows.at(i).value)
             continue;
         const QString shown = before.meaning.isEmpty() ? before.value : before.meaning;
         rows[i].change = shown.isEmpty() ? tr("原为空") : tr("原为 %1").arg(shown);
+        ++count;
+    }
+    return count;
+}
+
+void RecordModel::showChanges(const OwnedRecord& record)
+{
+    QVector<Row> rows = rowsOf(record);
+    markChanges(rows);
+    replace(std::move(rows));
+}
+
+int RecordModel::addChanges(const OwnedRecord& record)
+{
+    QVector<Row> rows = rowsOf(record);
+    const int count = markChanges(rows);
+    for (int i = 0; i < rows.size() && i < m_rows.size(); ++i) {
+        if (rows.at(i).change.isEmpty())
+            rows[i].change = m_rows.at(i).change;
     }
     replace(std::move(rows));
+    return count;
 }
 
 void RecordModel::replace(QVector<Row> rows)
@@ -117,7 +137,7 @@ QVariant RecordModel::headerData(int section, Qt::Orientation orientation, int r
     case MeaningColumn:
         return tr("含义");
     case ChangeColumn:
-        return tr("最近一次确认的修改");
+        return tr("最近的修改");
     }
     return QVariant();
 }

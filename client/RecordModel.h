@@ -20,6 +20,8 @@ public:
     void show(const OwnedRecord& record);
     /// Shows @p record and marks what differs from what was shown before.
     void showChanges(const OwnedRecord& record);
+    /// The same, but what is marked already stays marked. Returns how many rows differ.
+    int addChanges(const OwnedRecord& record);
     /// How many rows are marked.
     int changeCount() const;
 
@@ -38,6 +40,8 @@ private:
         QString change; ///< empty unless the row is marked
     };
     static QVector<Row> rowsOf(const OwnedRecord& record);
+    /// How a row looked before, for those of @p rows that differ from what is shown.
+    int markChanges(QVector<Row>& rows) const;
     void replace(QVector<Row> rows);
 
     QVector<Row> m_rows;

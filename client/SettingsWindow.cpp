@@ -1,6 +1,6 @@
 #include "SettingsWindow.h"
 
-#include <QEvent>
+#include <QCloseEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWindow>
@@ -19,6 +19,13 @@ SettingsWindow::SettingsWindow(QWidget* dialog, QWidget* parent)
     setWidget(dialog);
     setMaximumSize(m_formSize);
     resize(m_formSize);
+}
+
+void SettingsWindow::closeEvent(QCloseEvent* event)
+{
+    QScrollArea::closeEvent(event);
+    if (event->isAccepted())
+        Q_EMIT closed();
 }
 
 void SettingsWindow::showEvent(QShowEvent* event)

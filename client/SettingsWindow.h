@@ -14,7 +14,12 @@ public:
     /// Takes ownership of @p dialog.
     SettingsWindow(QWidget* dialog, QWidget* parent);
 
+Q_SIGNALS:
+    /// After a confirm, a cancel, or the window's own close button.
+    void closed();
+
 protected:
+    void closeEvent(QCloseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

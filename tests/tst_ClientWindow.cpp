@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -33,6 +34,8 @@ private slots:
     void confirmStoresAndMarks();
     void nextConfirmMarksOnlyItsOwn();
     void cancelChangesNothing();
+    void changeWithoutAConfirm_data();
+    void changeWithoutAConfirm();
     void takesTheMouse();
     void opensAgainAndAgain();
     void secondRequestFindsTheSameWindow();
@@ -66,6 +69,8 @@ void tst_ClientWindow::initTestCase()
 
 void tst_ClientWindow::init()
 {
+    // The module keeps the language in a file of the home that all cases share.
+    QFile::remove(DataDirectory(m_module.homePath()).settingsFile());
     m_home = std::make_unique<QTemporaryDir>();
     m_directory = std::make_unique<DataDirectory>(m_home->path());
     m_core = std::make_unique<TradeCore>(*m_directory);
@@ -207,6 +212,55 @@ void tst_ClientWindow::cancelChangesNothing()
     QCOMPARE(m_core->GetTradeParm()->lockMinutes, 30);
     QCOMPARE(marked(), QStringList());
     QVERIFY(!QFileInfo::exists(m_directory->recordFile()));
+}
+
+void tst_ClientWindow::changeWithoutAConfirm_data()
+{
+    QTest::addColumn<QByteArray>("closedBy");
+    QTest::newRow("cancel") << QByteArray("pushButton_cancle");
+    QTest::newRow("window") << QByteArray();
+}
+
+void tst_ClientWindow::changeWithoutAConfirm()
+{
+    QFETCH(QByteArray, closedBy);
+    const auto* const summary = m_window->findChild<QLabel*>(QStringLiteral("label_summary"));
+    m_window->openSettings();
+    control<QLineEdit>("lineEdit_system_lockTime")->setText(QStringLiteral("45"));
+    control<QPushButton>("pushButton_confirm")->click();
+    QTRY_VERIFY(!m_window->settingsWindow());
+    QVERIFY(summary->text().endsWith(QStringLiteral(" 已确认，修改了 1 项")));
+
+    m_window->openSettings();
+    const ModalAnswer later = ModalAnswer::clicking(QStringLiteral("否"));
+    control<QComboBox>("comboBox_system_language")->setCurrentIndex(2);
+    QTRY_VERIFY(later.came());
+    QCOMPARE(m_core->GetTradeParm()->languageIndex, 2);
+    if (closedBy.isEmpty())
+        m_window->settingsWindow()->close();
+    else
+        control<QPushButton>(closedBy.constData())->click();
+    QTRY_VERIFY(!m_window->settingsWindow());
+    QCOMPARE(cell("languageIndex", RecordModel::ValueColumn), QStringLiteral("2"));
+    QCOMPARE(cell("languageIndex", RecordModel::ChangeColumn), QStringLiteral("原为 简体"));
+    QCOMPARE(cell("lockMinutes", RecordModel::ChangeColumn), QStringLiteral("原为 30 分钟"));
+    QCOMPARE(marked(),
+             (QStringList{QStringLiteral("lockMinutes"), QStringLiteral("languageIndex")}));
+    QVERIFY2(summary->text().endsWith(QStringLiteral(" 未经确认，修改了 1 项")),
+             qPrintable(summary->text()));
+
+    // Nothing new: what was said stays.
+    const QString said = summary->text();
+    m_window->openSettings();
+    m_window->settingsWindow()->close();
+    QTRY_VERIFY(!m_window->settingsWindow());
+    QCOMPARE(marked().size(), 2);
+    QCOMPARE(summary->text(), said);
+
+    // The next confirm marks its own again.
+    m_window->openSettings();
+    control<QPushButton>("pushButton_confirm")->click();
+    QCOMPARE(marked(), QStringList());
 }
 
 void tst_ClientWindow::takesTheMouse()

@@ -1326,6 +1326,13 @@ The old file is unchanged. Saving is tried again when the client quits.</transla
 Settings module: %2
 Data directory: %3</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 未经确认，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 not confirmed, %n value changed</numerusform>
+            <numerusform>%1 not confirmed, %n values changed</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>
@@ -1825,8 +1832,8 @@ Data directory: %3</translation>
         <translation>Meaning</translation>
     </message>
     <message>
-        <source>最近一次确认的修改</source>
-        <translation>Changed by the last confirm</translation>
+        <source>最近的修改</source>
+        <translation>Recent changes</translation>
     </message>
 </context>
 <context>

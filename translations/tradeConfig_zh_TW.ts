@@ -1325,6 +1325,12 @@
 設定模組：%2
 資料目錄：%3</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 未经确认，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 未經確認，修改了 %n 項</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RecordFields</name>
@@ -1824,8 +1830,8 @@
         <translation>含義</translation>
     </message>
     <message>
-        <source>最近一次确认的修改</source>
-        <translation>最近一次確認的修改</translation>
+        <source>最近的修改</source>
+        <translation>最近的修改</translation>
     </message>
 </context>
 <context>
