@@ -17,44 +17,67 @@ ActiveSkin& active() { return ActiveSkin::instance(); }
 
 bool isWhole(double value) { return value == std::floor(value); }
 
+/// How an outline one pixel wide is filled.
+struct Bands {
+    int scale = 0; ///< pixels of the device for one of the outline; 0: it must be stroked
+    QRectF rect;
+};
+
 /**
- * The scale at which an outline of @p rect, one pixel wide, is four whole bands of device pixels;
- * 0 if it is not.
+ * @p rect, or if it is the whole device a rectangle one pixel smaller.
+ *
+ * A stroke one pixel wide lies on the pixel after its line, which the device does not have: an
+ * outline of a whole widget would lack two edges.
+ */
+QRectF withinDevice(const QPainter& painter, const QRectF& rect)
+{
+    const QPaintDevice& device = *painter.device();
+    const bool whole = rect == QRectF(0.0, 0.0, device.width(), device.height())
+        && painter.combinedTransform().isIdentity();
+    return whole ? rect.adjusted(0.0, 0.0, -1.0, -1.0) : rect;
+}
+
+/**
+ * The four whole bands of device pixels that an outline of @p rect, one pixel wide, consists of.
  *
  * Filling bands is many times cheaper than stroking. It comes to the same for a painter that
  * draws aliased, at a whole-numbered scale, with corners on the pixel grid. Outlines that leave
  * the device, and those without an inside, are stroked with corners of their own.
  */
-int scaleOfBands(const QPainter& painter, const QRectF& rect)
+Bands bandsOf(const QPainter& painter, const QRectF& rect)
 {
     const QPaintEngine* const engine = painter.paintEngine();
     if (!engine || engine->type() != QPaintEngine::Raster || !engine->paintDevice()
         || painter.testRenderHint(QPainter::Antialiasing))
-        return 0;
+        return {};
     const QTransform& transform = painter.deviceTransform();
     const double scale = transform.m11();
     if (transform.type() > QTransform::TxScale || scale != transform.m22() || !isWhole(scale)
         || scale < 1.0 || scale > 16.0 || rect.width() < 2.0 || rect.height() < 2.0)
-        return 0;
-    const QRectF onDevice(rect.x() * scale + transform.dx(), rect.y() * scale + transform.dy(),
-                          rect.width() * scale, rect.height() * scale);
+        return {};
+    const QRectF outline = scale > 1.0 ? rect : withinDevice(painter, rect);
+    const QRectF onDevice(outline.x() * scale + transform.dx(),
+                          outline.y() * scale + transform.dy(), outline.width() * scale,
+                          outline.height() * scale);
     const bool onGrid = isWhole(onDevice.x()) && isWhole(onDevice.y()) && isWhole(onDevice.width())
         && isWhole(onDevice.height());
     const QPaintDevice& device = *engine->paintDevice();
     const bool inside = scale > 1.0
         || QRectF(0.0, 0.0, device.width() - 1, device.height() - 1).contains(onDevice);
-    return onGrid && inside ? int(scale) : 0;
+    if (!onGrid || !inside)
+        return {};
+    return {int(scale), outline};
 }
 
-void fillBands(QPainter& painter, const QRectF& rect, int scale, const QColor& colour)
+void fillBands(QPainter& painter, const Bands& bands, const QColor& colour)
 {
     // A stroke lies across its line; of an odd number of pixels, the middle one is on it.
-    const int pixelsBefore = scale / 2;
-    const double before = pixelsBefore / double(scale);
-    const double x = rect.x() - before;
-    const double y = rect.y() - before;
-    const double w = rect.width();
-    const double h = rect.height();
+    const int pixelsBefore = bands.scale / 2;
+    const double before = pixelsBefore / double(bands.scale);
+    const double x = bands.rect.x() - before;
+    const double y = bands.rect.y() - before;
+    const double w = bands.rect.width();
+    const double h = bands.rect.height();
     painter.fillRect(QRectF(x, y, w + 1.0, 1.0), colour);
     painter.fillRect(QRectF(x, y + h, w + 1.0, 1.0), colour);
     painter.fillRect(QRectF(x, y + 1.0, 1.0, h - 1.0), colour);
@@ -115,11 +138,11 @@ void CSkin::fillRect(QPainter& painter, QRectF rect, QString colorKey)
 void CSkin::drawRect(QPainter& painter, QRectF rect, QString colorKey, Qt::PenStyle penStyle,
                      double penWidth)
 {
-    const int scale
-        = penStyle == Qt::SolidLine && penWidth == 1.0 ? scaleOfBands(painter, rect) : 0;
-    if (scale != 0) {
+    const Bands bands
+        = penStyle == Qt::SolidLine && penWidth == 1.0 ? bandsOf(painter, rect) : Bands();
+    if (bands.scale != 0) {
         if (const QColor* const colour = active().colour(colorKey))
-            fillBands(painter, rect, scale, *colour);
+            fillBands(painter, bands, *colour);
         return;
     }
     const QPen* const pen = active().pen(colorKey, penStyle, penWidth);

@@ -82,6 +82,8 @@ private slots:
     void drawRectMatchesPainter_data();
     void drawRectMatchesPainter();
     void drawRectMatchesPainterAnywhere();
+    void drawRectOutlinesTheWholeDevice();
+    void drawRectOutlinesAWidget();
     void drawRectLeavesTheInside();
     void drawRectOnOtherDevices();
     void drawLineMatchesPainter_data();
@@ -161,7 +163,21 @@ void tst_SkinPaint::drawRectMatchesPainter_data()
     QTest::newRow("negative") << QRectF(25, 18, -20, -12) << 1.0 << false << solid << 1.0;
     QTest::newRow("cut off") << QRectF(-3, -3, 20, 12) << 1.0 << false << solid << 1.0;
     QTest::newRow("the whole device") << QRectF(0, 0, 39, 29) << 1.0 << false << solid << 1.0;
-    QTest::newRow("beyond the device") << QRectF(0, 0, 40, 30) << 1.0 << false << solid << 1.0;
+    QTest::newRow("beyond the device") << QRectF(0, 0, 41, 31) << 1.0 << false << solid << 1.0;
+    QTest::newRow("right edge of the device")
+        << QRectF(5, 0, 35, 30) << 1.0 << false << solid << 1.0;
+    QTest::newRow("lower edge of the device")
+        << QRectF(0, 6, 40, 24) << 1.0 << false << solid << 1.0;
+    QTest::newRow("edges of the device, dashes")
+        << QRectF(0, 0, 40, 30) << 1.0 << false << int(Qt::DashLine) << 1.0;
+    QTest::newRow("edges of the device, wide")
+        << QRectF(0, 0, 40, 30) << 1.0 << false << solid << 3.0;
+    QTest::newRow("edges of the device, antialiased")
+        << QRectF(0, 0, 40, 30) << 1.0 << true << solid << 1.0;
+    QTest::newRow("edges of the device, ratio 1.5")
+        << QRectF(0, 0, 40, 30) << 1.5 << false << solid << 1.0;
+    QTest::newRow("edges of the device, ratio 2")
+        << QRectF(0, 0, 40, 30) << 2.0 << false << solid << 1.0;
     QTest::newRow("the whole, ratio 2") << QRectF(0, 0, 39, 29) << 2.0 << false << solid << 1.0;
     QTest::newRow("half a pixel") << QRectF(5.5, 6.5, 20, 12) << 1.0 << false << solid << 1.0;
     QTest::newRow("fractions") << QRectF(5.3, 6.7, 20.4, 12.9) << 1.0 << false << solid << 1.0;
@@ -237,6 +253,45 @@ void tst_SkinPaint::drawRectMatchesPainterAnywhere()
             qWarning() << "round" << round << rect << moved << ratio << clipped << clip
                        << inkOf(actual) << inkOf(expected);
             QFAIL("an outline differs from the painter's");
+        }
+    }
+}
+
+void tst_SkinPaint::drawRectOutlinesTheWholeDevice()
+{
+    const QImage image = painted(canvas(40, 30), [](QPainter& painter) {
+        skin()->drawRect(painter, QRectF(0, 0, 40, 30), QStringLiteral("Glass"), Qt::SolidLine,
+                         1.0);
+    });
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            const bool edge = x == 0 || x == 39 || y == 0 || y == 29;
+            QCOMPARE(image.pixelColor(x, y), edge ? glassRed : QColor(0, 0, 0, 0));
+        }
+    }
+}
+
+void tst_SkinPaint::drawRectOutlinesAWidget()
+{
+    class Outlined : public QWidget {
+    public:
+        using QWidget::QWidget;
+        void paintEvent(QPaintEvent*) override
+        {
+            QPainter painter(this);
+            skin()->drawRect(painter, QRectF(rect()), QStringLiteral("Green"), Qt::SolidLine, 1.0);
+        }
+    };
+    QWidget window;
+    window.resize(40, 30);
+    Outlined inner(&window);
+    inner.setGeometry(5, 6, 20, 12);
+    const QImage image = window.grab().toImage();
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            const bool within = x >= 5 && x <= 24 && y >= 6 && y <= 17;
+            const bool edge = within && (x == 5 || x == 24 || y == 6 || y == 17);
+            QCOMPARE(image.pixelColor(x, y) == green, edge);
         }
     }
 }
