@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <dlfcn.h>
 
 namespace CorvelSkin {
@@ -65,7 +66,8 @@ bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
     }
 
     const int before = problems.size();
-    const SkinTable read = readSkinTable(table.readAll(), file, problems);
+    // A byte more than is allowed tells that there are too many.
+    const SkinTable read = readSkinTable(table.read(maxTableBytes + 1), file, problems);
     if (problems.size() > before && problems.at(before).key.isEmpty())
         return false;
 

@@ -21,11 +21,12 @@ bool readFile(const QString& path, QByteArray& bytes, QString& reason)
                                          : QStringLiteral("the file is missing");
         return false;
     }
-    if (file.size() > maxFileBytes) {
+    // What a file says of its size need not be what it holds.
+    bytes = file.read(maxFileBytes + 1);
+    if (bytes.size() > maxFileBytes) {
         reason = QStringLiteral("the file is larger than %1 bytes").arg(maxFileBytes);
         return false;
     }
-    bytes = file.readAll();
     return true;
 }
 

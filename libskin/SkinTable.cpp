@@ -13,7 +13,6 @@
 namespace CorvelSkin {
 namespace {
 
-constexpr int maxTableBytes = 1 << 20;
 constexpr int maxPixelSize = 200;
 constexpr int maxImageSide = 4096;
 constexpr int maxFrames = 64;

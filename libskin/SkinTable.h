@@ -31,6 +31,9 @@ struct ImageEntry {
     int frames = 1; ///< equal frames side by side
 };
 
+/// A larger table is refused.
+constexpr int maxTableBytes = 1 << 20;
+
 /// What a skin's table says, before any image is read.
 struct SkinTable {
     QHash<QString, QColor> colours;

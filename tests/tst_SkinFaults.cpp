@@ -375,6 +375,13 @@ void tst_SkinFaults::tableTooLarge()
     QVERIFY(!SkinLibrary::instance()->load(skin.folder()));
     QVERIFY(SkinLibrary::instance()->problems().first().reason.contains(
         QStringLiteral("larger than 1048576 bytes")));
+
+    // More than a byte array holds: a file with a hole takes no room on the disk.
+    QVERIFY(QFile::resize(skin.file(QStringLiteral("skin.json")), 3LL << 30));
+    QVERIFY(!SkinLibrary::instance()->load(skin.folder()));
+    QCOMPARE(SkinLibrary::instance()->problems().size(), 1);
+    QCOMPARE(SkinLibrary::instance()->problems().first().reason,
+             QStringLiteral("the table is larger than 1048576 bytes"));
 }
 
 void tst_SkinFaults::imageBeyondReason()
@@ -389,6 +396,10 @@ void tst_SkinFaults::imageBeyondReason()
     skin.set(QStringLiteral("images"), QStringLiteral("logo"),
              imageEntry(QStringLiteral("huge.png"), QJsonArray{24, 24}, 1));
     skin.write(QStringLiteral("images/close.svg"), QByteArray((8 << 20) + 1, ' '));
+    // Its size is said to be 0.
+    QVERIFY(QFile::remove(skin.file(QStringLiteral("images/minimize.svg"))));
+    QVERIFY(
+        QFile::link(QStringLiteral("/dev/zero"), skin.file(QStringLiteral("images/minimize.svg"))));
     QVERIFY(SkinLibrary::instance()->load(skin.folder()));
     QStringList faults;
     for (const SkinProblem& problem : SkinLibrary::instance()->problems())
@@ -396,7 +407,8 @@ void tst_SkinFaults::imageBeyondReason()
     faults.sort();
     QCOMPARE(faults,
              (QStringList{QStringLiteral("PanelClose the file is larger than 8388608 bytes"),
-                          QStringLiteral("logo the bitmap is larger than 8192 pixels a side")}));
+                          QStringLiteral("logo the bitmap is larger than 8192 pixels a side"),
+                          QStringLiteral("win_minimize the file is larger than 8388608 bytes")}));
 }
 
 void tst_SkinFaults::problemsOfTheLastLoadOnly()
