@@ -36,7 +36,7 @@ protected:
 };
 
 const QColor lightClient(0xF8, 0xF9, 0xFB);
-const QColor darkClient(0x23, 0x29, 0x32);
+const QColor darkClient(0x1F, 0x24, 0x2C);
 
 QImage frameAt(double ratio, const QString& key)
 {
@@ -129,7 +129,7 @@ void tst_SkinSwitching::signalComesWhenTheNewSkinServes()
     disconnect(connection);
     QCOMPARE(
         seen,
-        (QStringList{QStringLiteral("dark#232932#232932"), QStringLiteral("light#f8f9fb#f8f9fb")}));
+        (QStringList{QStringLiteral("dark#1f242c#1f242c"), QStringLiteral("light#f8f9fb#f8f9fb")}));
 }
 
 void tst_SkinSwitching::keptImagesAreDropped()
