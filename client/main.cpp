@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "Screenshots.h"
 #include "SettingsModule.h"
+#include "SkinStyle.h"
 #include "SkinSwitcher.h"
 #include "StartSettings.h"
 #include "TradeCore.h"
@@ -207,8 +208,7 @@ int main(int argc, char** argv)
     if (!moduleFailure.isEmpty())
         return fail(moduleFailure);
 
-    // The only style that follows a skin's palette everywhere.
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new SkinStyle);
     SkinSwitcher skins(directory);
     if (!skins.start(options.skin))
         tell(QMessageBox::Warning,
