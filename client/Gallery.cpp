@@ -716,7 +716,7 @@ QWidget* hints()
                      Sample::tr("错误用红色，正确用绿色；提示先停留 1.5 秒，再用 1 秒淡出。"));
     page.section(Sample::tr("提示标签"));
     QHBoxLayout* shelf = page.shelf();
-    put(shelf, newTip(Sample::tr("请输入 100 的整数倍"), true), Sample::tr("错误"));
+    put(shelf, newTip(Sample::tr("应为 100 的倍数"), true), Sample::tr("错误"));
     put(shelf, newTip(Sample::tr("输入正确"), false), Sample::tr("正确"));
     CTipLabel* const fading = newTip(Sample::tr("正在淡出"), true);
     holdFade(*fading, 2000);

@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>上限不能小于下限或递减数量</source>
-        <translation>Below minimum or decrement</translation>
+        <translation>Below min. or decrement</translation>
     </message>
     <message>
         <source>不能大于上限</source>
@@ -609,15 +609,15 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>撤最后</source>
-        <translation>Cancel last order</translation>
+        <translation>Cancel last</translation>
     </message>
     <message>
         <source>批量下单-买入</source>
-        <translation>Batch order: buy</translation>
+        <translation>Batch buy</translation>
     </message>
     <message>
         <source>批量下单-卖出</source>
-        <translation>Batch order: sell</translation>
+        <translation>Batch sell</translation>
     </message>
     <message>
         <source>刷新</source>
@@ -635,7 +635,7 @@ Change the values marked red until they turn green, then press OK again.</transl
     <message>
         <source>与%1重复</source>
         <extracomment>%1 is the trading function that already has the key</extracomment>
-        <translation>Same as %1</translation>
+        <translation>Used by %1</translation>
     </message>
 </context>
 <context>
@@ -1142,8 +1142,8 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>Tip label</translation>
     </message>
     <message>
-        <source>请输入 100 的整数倍</source>
-        <translation>Enter a multiple of 100</translation>
+        <source>应为 100 的倍数</source>
+        <translation>Multiples of 100</translation>
     </message>
     <message>
         <source>输入正确</source>
@@ -1163,7 +1163,7 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
     <message>
         <source>与全局快捷键冲突</source>
-        <translation>Taken by a global hotkey</translation>
+        <translation>Is a global hotkey</translation>
     </message>
     <message>
         <source>显示并淡出</source>
@@ -1602,15 +1602,15 @@ Data directory: %3</translation>
     </message>
     <message>
         <source>撤最后</source>
-        <translation>Cancel last order</translation>
+        <translation>Cancel last</translation>
     </message>
     <message>
         <source>批量下单-买入</source>
-        <translation>Batch order: buy</translation>
+        <translation>Batch buy</translation>
     </message>
     <message>
         <source>批量下单-卖出</source>
-        <translation>Batch order: sell</translation>
+        <translation>Batch sell</translation>
     </message>
     <message>
         <source>保留字段</source>

@@ -1142,8 +1142,8 @@
         <translation>提示標籤</translation>
     </message>
     <message>
-        <source>请输入 100 的整数倍</source>
-        <translation>請輸入 100 的整數倍</translation>
+        <source>应为 100 的倍数</source>
+        <translation>應為 100 的倍數</translation>
     </message>
     <message>
         <source>输入正确</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>与全局快捷键冲突</source>
-        <translation>與全域快捷鍵衝突</translation>
+        <translation>與全域快速鍵衝突</translation>
     </message>
     <message>
         <source>显示并淡出</source>
