@@ -177,8 +177,11 @@ HeldSwitchBar* newBar(const ModeRow& row, Qt::Orientation orientation, int lengt
     const int thickness = horizontal || row.columns || row.imagesOnly ? barThickness : 84;
     auto* const bar = new HeldSwitchBar(
         orientation, horizontal ? QSize(length, thickness) : QSize(thickness, length));
-    if (!horizontal && row.columns)
+    if (!horizontal && row.columns) {
         bar->setItemSize(columnItem);
+        // The line beside the selected item would lie just outside the bar.
+        bar->SetPadding(QMarginsF(0, 0, 1, 0));
+    }
     return bar;
 }
 

@@ -42,6 +42,7 @@ private slots:
     void pages();
     void switchBars_data();
     void switchBars();
+    void lineBesideTheSelectedItem();
     void switchBarsStandStill();
     void navigationLists();
     void captionBarForEverySetOfFlags_data();
@@ -151,6 +152,24 @@ void tst_Gallery::switchBars()
     QCOMPARE(menu, mode != 6); // only images are painted there
     QCOMPARE(backgrounds.size(), 2);
     QCOMPARE(positions.size(), mode == 1 ? 0 : 3);
+}
+
+void tst_Gallery::lineBesideTheSelectedItem()
+{
+    const QColor line = SkinLibrary::instance()->colour(QStringLiteral("SwitchSelLine"));
+    int lines = 0;
+    for (HeldSwitchBar* const bar : page("switch-vertical")->findChildren<HeldSwitchBar*>()) {
+        const bool writesColumns
+            = bar->mode == CSwitchEx::ModeFlatButton || bar->mode == CSwitchEx::ModeNavButton;
+        if (!writesColumns || bar->moreShown)
+            continue;
+        ++lines;
+        const QImage picture = bar->grab().toImage();
+        const int middle = qRound(bar->curSel->rect.center().y());
+        QCOMPARE(picture.pixelColor(bar->width() - 1, middle), line);
+        QVERIFY(picture.pixelColor(bar->width() - 2, middle) != line);
+    }
+    QCOMPARE(lines, 4);
 }
 
 void tst_Gallery::switchBarsStandStill()
