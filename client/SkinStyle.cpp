@@ -7,6 +7,7 @@ namespace {
 
 // How much of the text's colour there is in that of a part; the rest is the window's.
 constexpr double grooveShare = 0.06;
+constexpr double lineShare = 0.16;
 constexpr double thumbShare = 0.35;
 constexpr double thumbShareHovered = 0.45;
 constexpr double thumbSharePressed = 0.55;
@@ -14,8 +15,8 @@ constexpr double boxShare = 0.55;
 
 QColor blend(const QPalette& palette, double share)
 {
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor window = palette.color(QPalette::Window);
+    const QColor& text = palette.color(QPalette::WindowText);
+    const QColor& window = palette.color(QPalette::Window);
     const auto mixed
         = [share](int of, int with) { return qRound(of * share + with * (1 - share)); };
     return QColor(mixed(text.red(), window.red()), mixed(text.green(), window.green()),
@@ -53,6 +54,22 @@ void SkinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
     painter->restore();
+}
+
+void SkinStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const auto* const frame
+        = element == CE_ShapedFrame ? qstyleoption_cast<const QStyleOptionFrame*>(option) : nullptr;
+    QRect line;
+    if (frame && frame->frameShape == QFrame::HLine)
+        line = QRect(frame->rect.x(), frame->rect.center().y(), frame->rect.width(), 1);
+    else if (frame && frame->frameShape == QFrame::VLine)
+        line = QRect(frame->rect.center().x(), frame->rect.y(), 1, frame->rect.height());
+    if (line.isValid())
+        painter->fillRect(line, blend(option->palette, lineShare));
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void SkinStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

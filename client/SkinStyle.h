@@ -5,11 +5,12 @@
 class QStyleOptionSlider;
 
 /**
- * Fusion, which follows a skin's palette everywhere, with two things drawn to be seen on any skin.
+ * Fusion, which follows a skin's palette everywhere, with three things drawn to be seen on any skin
+ * and at any scale.
  *
  * Fusion paints a scroll bar's thumb lighter than its groove, so that on a light skin the groove
- * looks like the thumb; and it outlines a check box darker than the window, so that on a dark skin
- * an empty box has no outline. No palette changes either.
+ * looks like the thumb; it outlines a check box darker than the window, so that on a dark skin an
+ * empty box has no outline; and its separating lines fall between two pixels at 150 % and vanish.
  */
 class SkinStyle : public QProxyStyle {
     Q_OBJECT
@@ -18,6 +19,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget = nullptr) const override;
 

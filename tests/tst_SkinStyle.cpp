@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 
 #include <QCheckBox>
+#include <QFrame>
 #include <QImage>
 #include <QPainter>
 #include <QScrollBar>
@@ -53,6 +54,8 @@ private slots:
     void emptyBoxHasAnOutline_data();
     void emptyBoxHasAnOutline();
     void focusIsShownOnTheBox();
+    void lineIsSeenAtEveryScale_data();
+    void lineIsSeenAtEveryScale();
 };
 
 void tst_SkinStyle::initTestCase() { QApplication::setStyle(new SkinStyle); }
@@ -214,6 +217,47 @@ void tst_SkinStyle::focusIsShownOnTheBox()
     const QColor plain = edge(QStyle::State_None);
     QCOMPARE(edge(QStyle::State_HasFocus), plain);
     QVERIFY(edge(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange) != plain);
+}
+
+void tst_SkinStyle::lineIsSeenAtEveryScale_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("shape");
+    for (const int percent : {100, 125, 150, 175, 200}) {
+        QTest::addRow("lying, %d", percent) << percent / 100.0 << int(QFrame::HLine);
+        QTest::addRow("upright, %d", percent) << percent / 100.0 << int(QFrame::VLine);
+    }
+}
+
+void tst_SkinStyle::lineIsSeenAtEveryScale()
+{
+    QFETCH(const double, scale);
+    QFETCH(const int, shape);
+    const bool lying = shape == QFrame::HLine;
+    QWidget window;
+    window.resize(40, 40);
+    // As thin as the dialog's, at every place on the grid of device pixels.
+    for (int place = 0; place < 4; ++place) {
+        auto* const line = new QFrame(&window);
+        line->setFrameShape(QFrame::Shape(shape));
+        line->setFrameShadow(QFrame::Sunken);
+        const int at = 3 + 9 * place;
+        line->setGeometry(lying ? QRect(0, at, 40, 1) : QRect(at, 0, 1, 40));
+    }
+    QImage image((QSizeF(window.size()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    window.render(&image);
+    const QColor ground = image.pixelColor(0, 0);
+    int lines = 0;
+    bool wasLine = false;
+    const int middle = image.width() / 2;
+    for (int i = 0; i < image.width(); ++i) {
+        const QColor colour = lying ? image.pixelColor(middle, i) : image.pixelColor(i, middle);
+        const bool isLine = contrast(colour, ground) >= 1.25;
+        lines += isLine && !wasLine ? 1 : 0;
+        wasLine = isLine;
+    }
+    QCOMPARE(lines, 4);
 }
 
 TRADECONFIG_TEST_MAIN(tst_SkinStyle)
