@@ -1,5 +1,6 @@
 #include "bench/FloorDialog.h"
 
+#include "tradeConfig/RowLabels.h"
 #include "tradeConfig/platform/HostPlatform.h"
 #include "ui_FloorForm.h"
 
@@ -100,6 +101,7 @@ FloorDialog::FloorDialog(KivoTrade::ITrade* trade)
 {
     const TradeParm& parm = *trade->GetTradeParm();
     m_form->setupUi(this);
+    RowLabels::fit(*this);
     buildNavigation(parm);
     buildTables(parm);
     fillChoices();

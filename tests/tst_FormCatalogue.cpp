@@ -22,6 +22,10 @@ struct Control {
     const char* text;
 };
 
+// The form's members have the toolkit's own types.
+constexpr QStackedWidget* Ui_CTradeConfigWidget::*topStack = &Ui_CTradeConfigWidget::stackedWidget;
+constexpr QLabel* Ui_CTradeConfigWidget::*rowLabel = &Ui_CTradeConfigWidget::label_14;
+
 // clang-format off
 constexpr Control controls[] = {
     {"widget", "QWidget", "CTradeConfigWidget", nullptr},
@@ -213,6 +217,8 @@ private slots:
     void headingsAndRules();
     void fieldGeometry_data();
     void fieldGeometry();
+    void checkBoxPlaces_data();
+    void checkBoxPlaces();
     void labelsStandLevelWithTheirFields_data();
     void labelsStandLevelWithTheirFields();
     void fonts();
@@ -227,6 +233,8 @@ private slots:
     void buttonRowStartsWithASpacer();
     void stackOrder_data();
     void stackOrder();
+    void pagesAreMadeInTheirStacks();
+    void membersAreTheToolkitsOwn();
     void startPages();
     void initialValues();
     void scaleRange_data();
@@ -405,6 +413,21 @@ void tst_FormCatalogue::fieldGeometry()
     QCOMPARE(find(QTest::currentDataTag())->geometry(), expected);
 }
 
+void tst_FormCatalogue::checkBoxPlaces_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("checkBox_trade_pk") << QPoint(50, 330);
+    QTest::newRow("checkBox_trade_cancle") << QPoint(60, 60);
+    QTest::newRow("checkBox_trade_wt") << QPoint(60, 100);
+    QTest::newRow("checkBox_trade_wtDlg") << QPoint(60, 140);
+}
+
+void tst_FormCatalogue::checkBoxPlaces()
+{
+    QFETCH(QPoint, place);
+    QCOMPARE(find(QTest::currentDataTag())->pos(), place);
+}
+
 void tst_FormCatalogue::labelsStandLevelWithTheirFields_data()
 {
     QTest::addColumn<QString>("field");
@@ -570,7 +593,8 @@ void tst_FormCatalogue::sizeLimits_data()
     row("widget_trade", {120, 0}, {free, free});
     row("widget_shortcut", {120, 0}, {free, free});
     row("widget", {0, 60}, {free, free});
-    row("line_16", {0, 0}, {free, 1});
+    for (const char* const name : {"line_13", "line_14", "line_15", "line_16"})
+        row(name, {0, 0}, {free, 1});
 }
 
 void tst_FormCatalogue::sizeLimits()
@@ -638,6 +662,43 @@ void tst_FormCatalogue::stackOrder()
     for (int index = 0; index < stack->count(); ++index)
         names << stack->widget(index)->objectName();
     QCOMPARE(names.join(QLatin1Char(' ')), pages);
+}
+
+// Moved there later, every child would be told of the font again.
+void tst_FormCatalogue::pagesAreMadeInTheirStacks()
+{
+    class Birthplaces : public QObject {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::ParentChange
+                && watched->objectName().startsWith(QLatin1String("page")))
+                moved << watched->objectName();
+            return false;
+        }
+        QStringList moved;
+    };
+    Birthplaces birthplaces;
+    qApp->installEventFilter(&birthplaces);
+    const BareForm made;
+    qApp->removeEventFilter(&birthplaces);
+    QCOMPARE(birthplaces.moved, QStringList());
+    int pages = 0;
+    for (const QStackedWidget* const stack : made.widget.findChildren<QStackedWidget*>()) {
+        for (int index = 0; index < stack->count(); ++index, ++pages)
+            QCOMPARE(stack->widget(index)->parentWidget(), stack);
+    }
+    QCOMPARE(pages, 13);
+}
+
+void tst_FormCatalogue::membersAreTheToolkitsOwn()
+{
+    QCOMPARE((form.ui.*topStack)->objectName(), QStringLiteral("stackedWidget"));
+    QCOMPARE((form.ui.*rowLabel)->objectName(), QStringLiteral("label_14"));
+    QStringList names;
+    for (QLabel* const label : {form.ui.label_2, form.ui.label_35})
+        names << label->objectName();
+    QCOMPARE(names, QStringList({QStringLiteral("label_2"), QStringLiteral("label_35")}));
 }
 
 void tst_FormCatalogue::startPages()

@@ -1,7 +1,6 @@
 #include "support/FakeTrade.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/RowLabel.h"
 
 class tst_RowLabel : public QObject {
     Q_OBJECT
@@ -10,6 +9,8 @@ private slots:
     void glyphsFitTheRow_data();
     void glyphsFitTheRow();
     void rowsKeepTheirPlace();
+    void otherLabelsStayAsTheyAre();
+    void bareFormShowsItsTexts();
 };
 
 namespace {
@@ -66,6 +67,25 @@ void tst_RowLabel::rowsKeepTheirPlace()
     QCOMPARE(dialog.ui.label_7->metaObject()->className(), "QLabel");
     QCOMPARE(dialog.ui.label_7->font().family(), QStringLiteral("Arial"));
     QCOMPARE(dialog.ui.label_7->font().pointSize(), 11);
+}
+
+void tst_RowLabel::otherLabelsStayAsTheyAre()
+{
+    FakeTrade trade;
+    const CTradeConfigWidget dialog(&trade);
+    QCOMPARE(dialog.ui.label_2->contentsMargins(), QMargins(0, -6, 0, -2));
+    for (const QLabel* const label :
+         {dialog.ui.label_35, dialog.ui.label_33, dialog.ui.label_shortcut})
+        QCOMPARE(label->contentsMargins(), QMargins());
+}
+
+void tst_RowLabel::bareFormShowsItsTexts()
+{
+    QWidget widget;
+    Ui_CTradeConfigWidget form;
+    form.setupUi(&widget);
+    QCOMPARE(form.label_7->contentsMargins(), QMargins());
+    QVERIFY(ink(*form.label_7) > 20000);
 }
 
 TRADECONFIG_TEST_MAIN(tst_RowLabel)

@@ -6,6 +6,7 @@
 #include "tradeConfig/MessageBox.h"
 #include "tradeConfig/ParmBinding.h"
 #include "tradeConfig/QuantityValidator.h"
+#include "tradeConfig/RowLabels.h"
 #include "tradeConfig/ShortcutTable.h"
 #include "tradeConfig/StyleMark.h"
 #include "tradeConfig/SwitchEx.h"
@@ -65,6 +66,7 @@ CTradeConfigWidget::CTradeConfigWidget(QWidget* parent)
     : QWidget(parent)
 {
     ui.setupUi(this);
+    RowLabels::fit(*this);
 }
 
 // Delegates, so that the destructor frees the bar's items when the host's core throws below.
