@@ -199,6 +199,7 @@ private slots:
     void mouseNavigation();
     void interfacePageIsUnreachable();
     void setCurrentIndex();
+    void slotsAreInvokable();
 
     void cancelClosesTheDialog();
     void cancelClosesTheParent();
@@ -733,6 +734,42 @@ void tst_CTradeConfigWidget::setCurrentIndex()
         QCOMPARE(opened.ui().stackedWidget->currentIndex(), index);
     }
     QCOMPARE(opened.ui().stackedWidget_system->currentIndex(), 0);
+}
+
+void tst_CTradeConfigWidget::slotsAreInvokable()
+{
+    Opened opened;
+    QObject* const dialog = opened.dialog.get();
+    QVERIFY(QMetaObject::invokeMethod(dialog, "SetCurrentIndex", Q_ARG(int, 2)));
+    QCOMPARE(opened.ui().stackedWidget->currentIndex(), 2);
+
+    QVERIFY(QDir().mkpath(settingsFile() + QStringLiteral("/config")));
+    const QString path = settingsFile() + QStringLiteral("/config/system_settings.ini");
+    opened.ui().spinBox_scale->setValue(125);
+    QVERIFY(QMetaObject::invokeMethod(dialog, "saveUISettings"));
+    QCOMPARE(QSettings(path, QSettings::IniFormat).value(QStringLiteral("UI/scale")).toInt(), 125);
+
+    QSettings(path, QSettings::IniFormat)
+        .setValue(QStringLiteral("UI/language"), QStringLiteral("en_US"));
+    QVERIFY(QMetaObject::invokeMethod(dialog, "loadLanguage"));
+    QCOMPARE(opened.ui().comboBox_system_language->currentIndex(), 2);
+
+    {
+        const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("否"));
+        QVERIFY(QMetaObject::invokeMethod(dialog, "restart"));
+        QCOMPARE(answer.text(), restartQuestion);
+    }
+
+    QVERIFY(QMetaObject::invokeMethod(dialog, "ShowInputErrorMsg",
+                                      Q_ARG(QObject*, opened.ui().lineEdit_trade_high),
+                                      Q_ARG(QString, QStringLiteral("a tip")), Q_ARG(int, 170)));
+    QCOMPARE(opened->tipLabel->text(), QStringLiteral("a tip"));
+    QCOMPARE(opened->tipLabel->width(), 170);
+
+    opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
+    QVERIFY(QMetaObject::invokeMethod(dialog, "CheckSplitIsOk",
+                                      Q_ARG(QString, QStringLiteral("lineEdit_trade_high"))));
+    QVERIFY(opened->inputValidity.value(QStringLiteral("lineEdit_trade_low")));
 }
 
 void tst_CTradeConfigWidget::cancelClosesTheDialog()

@@ -55,6 +55,22 @@ public:
     /// Fills every control from the record. Once, while constructing.
     void ReadAllParm();
 
+    /// Enables or disables the key cells of every row but @p row, in the stock table.
+    void SetLineEditEnable(int row, bool enable);
+    /// The same in the credit table.
+    void SetLineEditEnable2(int row, bool enable);
+
+    /// Checks a field, or ends the editing of a protection price, when it loses the focus.
+    /// Never consumes an event.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public Q_SLOTS:
+    /// Confirm: saves everything and closes, or says that a marked value must be mended first.
+    void WriteAllParm();
+
+    /// Closes the parent widget if there is one, otherwise this dialog.
+    void CloseDlg();
+
     /// Shows a page of the top-level stack: 0 system, 1 trade, 2 shortcuts.
     void SetCurrentIndex(int index);
 
@@ -74,30 +90,23 @@ public:
     /// Clears the red marks that the quantity in the field @p name, just accepted, makes moot.
     void CheckSplitIsOk(QString name);
 
-    /// Enables or disables the key cells of every row but @p row, in the stock table.
-    void SetLineEditEnable(int row, bool enable);
-    /// The same in the credit table.
-    void SetLineEditEnable2(int row, bool enable);
-
-    /// Checks a field, or ends the editing of a protection price, when it loses the focus.
-    /// Never consumes an event.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-public Q_SLOTS:
-    /// Confirm: saves everything and closes, or says that a marked value must be mended first.
-    void WriteAllParm();
-
-    /// Closes the parent widget if there is one, otherwise this dialog.
-    void CloseDlg();
-
+    /// Enables or disables the five inputs of stock order splitting.
     void OnclickedChecked(bool checked);
+    /// The same for STAR-board splitting.
     void OnclickedKcChecked(bool checked);
+
+    /// Shows the rows that the stock splitting strategy @p index needs; another index, no change.
     void SelectFcSplit(int index);
+    /// The same for the STAR strategies, of which 0 to 2 also write base quantity and upper limit.
     void SelectFcKcSplit(int index);
 
+    /// Lets the buy protection price be edited until it loses the focus, and gives it the focus.
     void ChangeComboboxKcBuyRise();
+    /// The same for the sell protection price.
     void ChangeComboboxKcSellRise();
+    /// Keeps @p text as the buy protection price being edited.
     void ChangeComboboxKcBuyRiseText(QString text);
+    /// The same for the sell protection price.
     void ChangeComboboxKcSellRiseText(QString text);
 
     /// A key was captured in the stock table.
@@ -105,6 +114,8 @@ public Q_SLOTS:
     /// A key was captured in the credit table.
     void CellEditFinished2(int row, QString text);
 
+    /// The language was chosen: stores @p index in the record, without committing it, writes the
+    /// settings file and asks in a modal box whether to restart.
     void languageChanged(int index);
 
 protected:
