@@ -2,6 +2,7 @@
 // process, so each case of tst_HostPlatformUnix asks them in a process of its own, this one.
 // It prints what they said as JSON.
 
+#include "tradeConfig/InterfaceSettings.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,8 @@ int main(int argc, char** argv)
     const char* const home = ApplicationHomePath();
     const QByteArray path = homePath();
     answers[QStringLiteral("home")] = QString::fromLatin1(path.toHex());
+    answers[QStringLiteral("dataDirectory")]
+        = QString::fromLatin1(InterfaceSettings::dataDirectory().toUtf8().toHex());
     answers[QStringLiteral("isDirectory")] = QFileInfo(QFile::decodeName(path)).isDir();
 
     // Nothing that changes afterwards may show in the second answer, nor be done again.

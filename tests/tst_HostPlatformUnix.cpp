@@ -259,6 +259,8 @@ void tst_HostPlatformUnix::lengths()
     m_environment.insert(QStringLiteral("HOME"), QString::fromUtf8(home));
     const QJsonObject answers = probe(QStringLiteral("kivotrade.com"), QStringLiteral("client"));
     QCOMPARE(homePath(answers), whole.left(kept));
+    QCOMPARE(QByteArray::fromHex(answers[QStringLiteral("dataDirectory")].toString().toLatin1()),
+             whole.left(kept));
     QVERIFY(QDir(QString::fromUtf8(home)).exists());
 }
 

@@ -146,6 +146,8 @@ private slots:
 
     void badFiles_data();
     void badFiles();
+    void goodFiles_data();
+    void goodFiles();
     void firstBadFileIsKept();
     void directoryInItsPlace();
     void unwritableDirectory();
@@ -160,6 +162,8 @@ private slots:
 
     void languageChangedWritesAtOnce_data();
     void languageChangedWritesAtOnce();
+    void languageChangedStoresItsIndex_data();
+    void languageChangedStoresItsIndex();
     void cancelKeepsTheLanguage();
     void restartQuestion();
     void restartOtherwise_data();
@@ -294,6 +298,33 @@ void tst_InterfaceSettings::openedAnewEachTime()
     QCOMPARE(InterfaceSettings::scale(), 1000);
 }
 
+void tst_InterfaceSettings::goodFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("byte order mark")
+        << QByteArray("\xEF\xBB\xBF[UI]\nscale=100\n[Other]\nname=value\n") << "value";
+    QTest::newRow("continued") << QByteArray("[UI]\nscale=100\n[Other]\nname=val\\\nue\n")
+                               << "value";
+    QTest::newRow("continued twice")
+        << QByteArray("[Other]\nname=val\\\nu\\\ne\n[UI]\nscale=100\n") << "value";
+    QTest::newRow("continued, with carriage returns")
+        << QByteArray("[UI]\r\nscale=100\r\n[Other]\r\nname=val\\\r\nue\r\n") << "value";
+    QTest::newRow("comment") << QByteArray(";[UI\n[UI]\nscale=100\n[Other]\nname=value\n")
+                             << "value";
+}
+
+void tst_InterfaceSettings::goodFiles()
+{
+    QFETCH(QByteArray, content);
+    write(configFile(), content);
+    QCOMPARE(InterfaceSettings::scale(), 100);
+    InterfaceSettings::save(2, 145);
+    QVERIFY(!QFileInfo::exists(configFile() + QStringLiteral(".bad")));
+    QCOMPARE(InterfaceSettings::scale(), 145);
+    QTEST(stored("Other/name").toString(), "name");
+}
+
 void tst_InterfaceSettings::badFiles_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -305,6 +336,9 @@ void tst_InterfaceSettings::badFiles_data()
     QTest::newRow("zeros") << QByteArray(4096, '\0') << true;
     QTest::newRow("open section") << QByteArray("[UI\nlanguage") << true;
     QTest::newRow("no assignment") << QByteArray("[UI]\nlanguage\nscale\n") << true;
+    QTest::newRow("an escaped backslash continues nothing")
+        << QByteArray("[UI]\nlanguage=a\\\\\nrubbish\n") << true;
+    QTest::newRow("rubbish is not continued") << QByteArray("[UI]\nrubbish\\\na=b\n") << true;
     QTest::newRow("one long line") << QByteArray(1000000, 'x') << true;
     QTest::newRow("bad escapes") << QByteArray("[UI]\nlanguage=\\x\nscale=@Variant(\\0\\0)\n")
                                  << false;
@@ -484,6 +518,29 @@ void tst_InterfaceSettings::languageChangedWritesAtOnce()
     QCOMPARE(dialog.trade.saves, 0);
     QVERIFY(!quits());
     QCOMPARE(restarted(), QByteArray());
+}
+
+void tst_InterfaceSettings::languageChangedStoresItsIndex_data()
+{
+    QTest::addColumn<int>("index");
+    for (const int index : {0, 2, -1, 77})
+        QTest::newRow(qPrintable(QString::number(index))) << index;
+}
+
+// What it is told, which need not be what the combo shows; the file has the combo's.
+void tst_InterfaceSettings::languageChangedStoresItsIndex()
+{
+    QFETCH(int, index);
+    write(configFile(), "[UI]\nlanguage=zh_TW\n");
+    Dialog dialog;
+    QCOMPARE(dialog.language().currentIndex(), 1);
+    {
+        const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("否"));
+        dialog->languageChanged(index);
+        QCOMPARE(answer.text(), question);
+    }
+    QCOMPARE(dialog.trade.parm().languageIndex, index);
+    QCOMPARE(stored("UI/language").toString(), QStringLiteral("zh_TW"));
 }
 
 void tst_InterfaceSettings::cancelKeepsTheLanguage()

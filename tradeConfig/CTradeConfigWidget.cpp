@@ -12,7 +12,6 @@
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
-#include "tradeConfig/platform/HostPlatform.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -330,7 +329,7 @@ void CTradeConfigWidget::restart()
                                               tr("部分修改需要重启后生效，确定现在重启吗？"));
     if (answer != QMessageBox::Yes)
         return;
-    const QDir home(QString::fromUtf8(ApplicationHomePath()));
+    const QDir home(InterfaceSettings::dataDirectory());
     QProcess::startDetached(home.absoluteFilePath(QStringLiteral("restart")),
                             {QStringLiteral("jy")});
     QCoreApplication::exit(0);

@@ -33,6 +33,17 @@ bool directoryHasRoomFor(const QString& path)
         && probe.size() == content.size();
 }
 
+constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+
+/// Whether the last character is a backslash that no other one escapes.
+bool endsInBackslash(const QByteArray& line)
+{
+    int backslashes = 0;
+    while (backslashes < line.size() && line.at(line.size() - 1 - backslashes) == '\\')
+        ++backslashes;
+    return backslashes % 2 == 1;
+}
+
 /// Whether every line of the file is one that survives being read and written again. QSettings
 /// does not tell: it parses late, and a file that it has met before not at all.
 bool consistsOfSettings(const QString& path)
@@ -40,8 +51,15 @@ bool consistsOfSettings(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return true; // nothing to lose that could be read
+    if (file.peek(std::size(byteOrderMark) - 1) == byteOrderMark)
+        file.skip(std::size(byteOrderMark) - 1);
+    bool continuesValue = false;
     while (!file.atEnd()) {
         const QByteArray line = file.readLine().trimmed();
+        const bool partOfValue = continuesValue;
+        continuesValue = (partOfValue || line.contains('=')) && endsInBackslash(line);
+        if (partOfValue)
+            continue;
         const bool section = line.startsWith('[') && line.endsWith(']');
         if (!line.isEmpty() && !line.startsWith(';') && !section && !line.contains('='))
             return false;
@@ -53,9 +71,17 @@ bool consistsOfSettings(const QString& path)
 
 namespace InterfaceSettings {
 
+QString dataDirectory()
+{
+    // A path that fills the buffer has no terminator.
+    constexpr uint bufferSize = 512;
+    const char* const path = ApplicationHomePath();
+    return QString::fromUtf8(path, int(qstrnlen(path, bufferSize)));
+}
+
 QString filePath()
 {
-    QDir directory(QString::fromUtf8(ApplicationHomePath()));
+    QDir directory(dataDirectory());
     directory.cd(QStringLiteral("config"));
     return directory.absoluteFilePath(QStringLiteral("system_settings.ini"));
 }

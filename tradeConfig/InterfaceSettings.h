@@ -11,6 +11,9 @@
  */
 namespace InterfaceSettings {
 
+/// ApplicationHomePath() as text; a path that was cut is whole up to there.
+QString dataDirectory();
+
 /// Where the file is, existing or not.
 QString filePath();
 
