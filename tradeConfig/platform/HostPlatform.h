@@ -11,7 +11,9 @@
 
 #define HOST_PLATFORM_EXPORT __attribute__((visibility("default")))
 
+#ifdef __cplusplus
 extern "C" {
+#endif
 
 /**
  * The directory of the application's per-user data, without a trailing slash. Found and, if
@@ -30,7 +32,7 @@ extern "C" {
  * The text lies in a static buffer of 512 bytes and is never freed. A path of 512 bytes or more
  * is cut there and has no terminator.
  */
-HOST_PLATFORM_EXPORT const char* ApplicationHomePath();
+HOST_PLATFORM_EXPORT const char* ApplicationHomePath(void);
 
 /**
  * Hides the native title bar and its three buttons of the window that shows @p view; the
@@ -48,13 +50,13 @@ HOST_PLATFORM_EXPORT void hideWindowCaptionBar(void* view);
  * Copy the text, never free it. On macOS it lives until the caller's autorelease pool is
  * drained, on Linux until a call that finds another version set.
  */
-HOST_PLATFORM_EXPORT const char* GetMainExecutableVersion();
+HOST_PLATFORM_EXPORT const char* GetMainExecutableVersion(void);
 
 /**
  * The same version as a number: "major.minor.patch" gives major * 1000000 + minor * 10000 +
  * patch, cut to 32 bits. With a single dot the number is major * 1000000, without one it is 0.
  */
-HOST_PLATFORM_EXPORT int GetMainExecutableVersionNum();
+HOST_PLATFORM_EXPORT int GetMainExecutableVersionNum(void);
 
 /**
  * The serial number of the machine (not of a disk), empty if there is none: on macOS that of the
@@ -63,7 +65,7 @@ HOST_PLATFORM_EXPORT int GetMainExecutableVersionNum();
  *
  * Read by the first call into a static buffer of 256 bytes, never freed.
  */
-HOST_PLATFORM_EXPORT const char* GetDiskId();
+HOST_PLATFORM_EXPORT const char* GetDiskId(void);
 
 /**
  * The UUID of the machine, empty if there is none: on macOS that of the platform expert device,
@@ -71,6 +73,8 @@ HOST_PLATFORM_EXPORT const char* GetDiskId();
  *
  * Read by the first call into a static buffer of 512 bytes, never freed.
  */
-HOST_PLATFORM_EXPORT const char* GetSystemUuid();
+HOST_PLATFORM_EXPORT const char* GetSystemUuid(void);
 
+#ifdef __cplusplus
 } // extern "C"
+#endif
