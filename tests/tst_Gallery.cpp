@@ -60,6 +60,7 @@ private slots:
     void screenshotsIntoAFile();
     void everyPreviewIsPainted();
     void skinSwitchesLive();
+    void skinLeavesTheFonts();
 
 private:
     const QWidget* page(const char* name) const;
@@ -446,6 +447,26 @@ void tst_Gallery::skinSwitchesLive()
         QVERIFY2(after[index] == expected[index], qPrintable(switched.pages().at(index).name));
     }
     QVERIFY(SkinLibrary::instance()->load(QStringLiteral("light")));
+}
+
+void tst_Gallery::skinLeavesTheFonts()
+{
+    QWidget window;
+    QFont font(QStringLiteral("Arial"), 11);
+    window.setFont(font);
+    QLineEdit edit(&window);
+    font = edit.font();
+    font.setPointSize(13);
+    edit.setFont(font);
+    edit.setStyleSheet(QStringLiteral("color:red"));
+    window.show();
+    const QFont before = edit.font();
+    QCOMPARE(before.family(), QStringLiteral("Arial"));
+    for (const char* const name : {"dark", "light"}) {
+        QVERIFY(SkinLibrary::instance()->load(QString::fromLatin1(name)));
+        QCOMPARE(edit.font(), before);
+        QCOMPARE(edit.styleSheet(), QStringLiteral("color:red"));
+    }
 }
 
 TRADECONFIG_TEST_MAIN(tst_Gallery)
