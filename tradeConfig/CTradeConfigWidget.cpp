@@ -21,9 +21,16 @@
 #include <QProcess>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int interfacePageMode = 2;
+
+// The switch bar fills the width of the dialog as it opens, less its margins.
+constexpr int barHeight = 60;
+constexpr int barItemWidth = 219;
+constexpr int barWidth = 657;
 
 constexpr int largestQuantity = 10000000;
 constexpr int longestLockMinutes = 1000;
@@ -136,10 +143,10 @@ void CTradeConfigWidget::initSwitchBar()
 {
     switchBar = new CSwitchEx(ui.widget, Qt::Horizontal, QMargins(0, 0, 0, 0));
     switchBar->setObjectName(QStringLiteral("switchex_widget"));
-    switchBar->setMinimumSize(0, 60);
+    switchBar->setMinimumSize(0, barHeight);
     switchBar->changeMode(CSwitchEx::ModeNavButton);
-    switchBar->setItemSize(219);
-    switchBar->setFixedWidth(657);
+    switchBar->setItemSize(barItemWidth);
+    switchBar->setFixedWidth(barWidth);
     switchBar->setBackgroundColorEnable(false);
 
     const QString groups[] = {tr("系统设置"), tr("交易设置"), tr("快捷键设置")};

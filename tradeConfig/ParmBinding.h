@@ -6,7 +6,6 @@
 
 #include <QStringList>
 
-class QTableWidget;
 class Ui_CTradeConfigWidget;
 
 /**

@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QTableWidget>
 
+#include <algorithm>
+
 namespace {
 
 enum Column { FunctionColumn, KeyColumn, StatusColumn, ColumnCount };

@@ -2,7 +2,6 @@
 
 #include "tradeConfig/SplitRules.h"
 
-#include <QString>
 #include <cstdint>
 
 class QCheckBox;

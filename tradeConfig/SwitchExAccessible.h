@@ -9,7 +9,7 @@ struct SwitchItem;
 /// the innermost outwards, as they stand on the screen.
 class SwitchExAccessible : public PartsAccessible {
 public:
-    /// Once in the life of the library; made interfaces only come to be when asked for.
+    /// Once in the life of the library; interfaces only come to be when asked for.
     static void install();
 
     static void selected(CSwitchEx& bar);
