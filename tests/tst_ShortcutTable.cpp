@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QStyleFactory>
+#include <QTranslator>
 
 #include <memory>
 
@@ -183,6 +184,20 @@ private slots:
     void slotMarksItsRow();
 
     void setLineEditEnableLeavesTheRow();
+
+    void textsAreTranslated();
+    void everyRowOfTheTableIsFilled_data() { bothTables(); }
+    void everyRowOfTheTableIsFilled();
+    void theCellIsStored_data() { bothTables(); }
+    void theCellIsStored();
+    void anotherCellIsStored_data() { bothTables(); }
+    void anotherCellIsStored();
+    void rowsOutsideTheTable_data() { bothTables(); }
+    void rowsOutsideTheTable();
+    void listShorterThanTheTable();
+    void missingPartsAreLeftOut_data() { bothTables(); }
+    void missingPartsAreLeftOut();
+    void marksKeepTheFont();
 
 private:
     static void bothTables();
@@ -691,9 +706,10 @@ void tst_ShortcutTable::creditAloneWritesTheList()
 
     credit.capture(4, Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 1);
-    QVERIFY(seen.constLast().contains(QStringLiteral("\"Alt+A\"")));
-    QVERIFY(seen.constLast().contains(QStringLiteral("\"Ctrl+Y\"")));
-    QVERIFY(seen.constLast().contains(QStringLiteral("\"Alt+M\"")));
+    QCOMPARE(seen.constLast(),
+             QStringLiteral("edit m_shortCutList2  (\"Alt+A\", \"Alt+B\", \"Alt+F\", \"Alt+G\", "
+                            "\"Ctrl+Y\", \"Alt+D\", \"Alt+E\", \"Alt+H\", \"Alt+I\", \"Alt+J\", "
+                            "\"Alt+K\", \"Alt+L\", \"Alt+M\")"));
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
     // Neither an unchanged nor an empty key writes it.
@@ -745,6 +761,214 @@ void tst_ShortcutTable::setLineEditEnableLeavesTheRow()
     QCOMPARE(credit.enabledRows(), QList<int>{12});
     credit.dialog->SetLineEditEnable2(12, true);
     QCOMPARE(credit.enabledRows(), allRows());
+}
+
+void tst_ShortcutTable::textsAreTranslated()
+{
+    class Marking : public QTranslator {
+    public:
+        QString translate(const char* context, const char* source, const char*, int) const override
+        {
+            if (qstrcmp(context, "CTradeConfigWidget") != 0)
+                return {};
+            return QStringLiteral("T:") + QString::fromUtf8(source);
+        }
+        bool isEmpty() const override { return false; }
+    };
+    Marking translator;
+    QCoreApplication::installTranslator(&translator);
+    {
+        const Side side(false);
+        for (const char* const name :
+             {"tableWidget_shortcut", "tableWidget_credit", "tableWidget_whole"}) {
+            const QTableWidget& table = side.dialog.table(QString::fromLatin1(name));
+            QCOMPARE(table.horizontalHeaderItem(0)->text(), QStringLiteral("T:功能说明"));
+            QCOMPARE(table.horizontalHeaderItem(1)->text(), QStringLiteral("T:键位设定"));
+            QCOMPARE(table.horizontalHeaderItem(2)->text(), QStringLiteral("T:设置说明"));
+            for (int row = 0; row < table.rowCount(); ++row) {
+                QCOMPARE(table.item(row, 2)->text(), QStringLiteral("T:正常"));
+                if (table.rowCount() == 13)
+                    QCOMPARE(table.item(row, 0)->text(), QStringLiteral("T:") + functions.at(row));
+            }
+        }
+        const QTableWidget& whole = side.dialog.table(QStringLiteral("tableWidget_whole"));
+        QCOMPARE(whole.item(0, 0)->text(), QStringLiteral("T:刷新"));
+        QCOMPARE(whole.item(1, 0)->text(), QStringLiteral("T:显示/隐藏交易模块"));
+
+        side.capture(4, Qt::Key_F5);
+        QCOMPARE(side.status(4), QStringLiteral("T:F5为全局快捷键！"));
+        side.capture(4, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(side.status(4), QStringLiteral("T:与T:买入股票重复"));
+        side.capture(4, Qt::Key_F7);
+        QCOMPARE(side.status(4), QStringLiteral("T:正常"));
+        emit side.editor(4).signal_editFinished(4, QString());
+        QCOMPARE(side.editor(4).text(), QStringLiteral("T:空"));
+    }
+    QCoreApplication::removeTranslator(&translator);
+}
+
+void tst_ShortcutTable::everyRowOfTheTableIsFilled()
+{
+    QFETCH(bool, credit);
+    const QString first = credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A");
+    const QString last = credit ? QStringLiteral("Alt+M") : QStringLiteral("Ctrl+M");
+    {
+        // A row more than there are keys, with a plain editor.
+        const Side side(credit);
+        side.table.setRowCount(14);
+        auto* const added = new QLineEdit(QStringLiteral("old"));
+        side.table.setCellWidget(13, 1, added);
+        side.table.setCellWidget(5, 1, new QLabel);
+        side.editor(0).setText(QStringLiteral("old"));
+        side.dialog->ReadAllParm();
+        QCOMPARE(side.editor(0).text(), first);
+        QCOMPARE(side.editor(12).text(), last);
+        QCOMPARE(added->text(), QString());
+    }
+    {
+        // Fewer rows than keys.
+        const Side side(credit);
+        side.table.setRowCount(2);
+        side.editor(1).setText(QStringLiteral("old"));
+        side.dialog->ReadAllParm();
+        QCOMPARE(side.editor(0).text(), first);
+        QCOMPARE(side.editor(1).text(),
+                 credit ? QStringLiteral("Alt+B") : QStringLiteral("Ctrl+B"));
+        QCOMPARE(side.texts.size(), 13);
+    }
+}
+
+void tst_ShortcutTable::theCellIsStored()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    const auto keys = credit ? &TradeParm::creditShortcuts : &TradeParm::stockShortcuts;
+    emit side.editor(0).signal_editFinished(0, QString());
+    side.editor(7).setText(QStringLiteral("F7"));
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.texts.at(0), QString());
+    QCOMPARE(side.dialog.trade.text(keys, 0), QByteArray("空"));
+    QVERIFY(side.texts.at(7) != QStringLiteral("F7"));
+    QCOMPARE(side.dialog.trade.text(keys, 7), QByteArray("F7"));
+}
+
+void tst_ShortcutTable::anotherCellIsStored()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    const auto keys = credit ? &TradeParm::creditShortcuts : &TradeParm::stockShortcuts;
+    side.table.setCellWidget(8, 1, new QLineEdit(QStringLiteral("F8")));
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.dialog.trade.text(keys, 8), QByteArray("F8"));
+    QCOMPARE(side.dialog.trade.text(keys, 9), credit ? QByteArray("Alt+J") : QByteArray("Ctrl+J"));
+
+    // The same when the one that stood there is gone at last.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.dialog.trade.text(keys, 8), QByteArray("F8"));
+
+    delete side.table.cellWidget(9, 1);
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.dialog.trade.text(keys, 9), QByteArray());
+    side.table.setRowCount(3);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    side.dialog->WriteAllParm();
+    QCOMPARE(side.dialog.trade.text(keys, 1), credit ? QByteArray("Alt+B") : QByteArray("Ctrl+B"));
+    QCOMPARE(side.dialog.trade.text(keys, 12), QByteArray());
+    QCOMPARE(side.dialog.trade.saves, 4);
+}
+
+void tst_ShortcutTable::rowsOutsideTheTable()
+{
+    QFETCH(bool, credit);
+    const Side side(credit);
+    const QStringList before = side.texts;
+    for (const int row : {-1, 13, 1000000}) {
+        if (credit)
+            side.dialog->CellEditFinished2(row, QStringLiteral("F5"));
+        else
+            side.dialog->CellEditFinished(row, QStringLiteral("F5"));
+        QCOMPARE(side.texts, before);
+        QVERIFY(!side.hasEntry());
+        QCOMPARE(side.enabledRows(), allRows());
+    }
+}
+
+void tst_ShortcutTable::listShorterThanTheTable()
+{
+    Side stock(false);
+    stock.texts.clear();
+    stock.capture(7, Qt::Key_F12);
+    QCOMPARE(stock.status(7), QStringLiteral("F12为全局快捷键！"));
+    QVERIFY(stock.hasEntry());
+    QVERIFY(!stock.entry());
+    QCOMPARE(stock.enabledRows(), QList<int>{7});
+    stock.capture(7, Qt::Key_F7);
+    QCOMPARE(stock.status(7), normal);
+    QVERIFY(stock.entry());
+    QCOMPARE(stock.texts, QStringList());
+
+    Side credit(true);
+    credit.texts = QStringList{QStringLiteral("F7")};
+    credit.capture(7, Qt::Key_F7);
+    QCOMPARE(credit.status(7), QStringLiteral("与买入股票重复"));
+    QVERIFY(!credit.entry());
+    QCOMPARE(credit.texts, QStringList{QStringLiteral("F7")});
+}
+
+void tst_ShortcutTable::missingPartsAreLeftOut()
+{
+    QFETCH(bool, credit);
+    Side side(credit);
+    delete side.table.takeItem(4, 2);
+    delete side.table.takeItem(0, 0);
+    side.table.removeCellWidget(4, 1);
+    const auto captured = [&side, credit](const QString& text) {
+        if (credit)
+            side.dialog->CellEditFinished2(4, text);
+        else
+            side.dialog->CellEditFinished(4, text);
+    };
+    captured(side.texts.at(0));
+    QVERIFY(side.hasEntry());
+    QVERIFY(!side.entry());
+    captured(QString());
+    QVERIFY(!side.entry());
+    captured(QStringLiteral("F7"));
+    QVERIFY(side.entry());
+    QCOMPARE(side.texts.at(4), QStringLiteral("F7"));
+
+    delete side.table.takeItem(6, 0);
+    side.texts[6] = QStringLiteral("F8");
+    side.capture(7, Qt::Key_F8);
+    QCOMPARE(side.status(7), QStringLiteral("与重复"));
+}
+
+void tst_ShortcutTable::marksKeepTheFont()
+{
+    const Side side(false);
+    side.dialog->show();
+    const QFont cell = side.editor(4).font();
+    QCOMPARE(cell.family(), QStringLiteral("Arial"));
+    QLineEdit& field = *side.dialog->ui.lineEdit_trade_high;
+    const QFont before = field.font();
+    QCOMPARE(before.family(), QStringLiteral("Arial"));
+    for (int round = 0; round < 3; ++round) {
+        side.capture(4, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(side.editor(4).styleSheet(), red);
+        QCOMPARE(side.editor(4).font(), cell);
+        side.capture(4, Qt::Key_F7);
+        QCOMPARE(side.editor(4).styleSheet(), green);
+        QCOMPARE(side.editor(4).font(), cell);
+
+        for (const char* const text : {"99", "500"}) {
+            field.setText(QString::fromLatin1(text));
+            QFocusEvent leaving(QEvent::FocusOut);
+            QCoreApplication::sendEvent(&field, &leaving);
+            QCOMPARE(field.styleSheet(), *text == '9' ? red : green);
+            QCOMPARE(field.font(), before);
+        }
+    }
 }
 
 TRADECONFIG_TEST_MAIN(tst_ShortcutTable)

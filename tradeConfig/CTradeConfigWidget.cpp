@@ -55,15 +55,6 @@ constexpr Tip tips[] = {
     {SplitRules::Verdict::AboveUpper, QT_TRANSLATE_NOOP("CTradeConfigWidget", "不能大于上限"), 160},
 };
 
-QStringList textsOf(const QVector<CTableLineEdit*>& editors)
-{
-    QStringList texts;
-    texts.reserve(editors.size());
-    for (const CTableLineEdit* const editor : editors)
-        texts << editor->text();
-    return texts;
-}
-
 const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
 
 } // namespace
@@ -267,8 +258,10 @@ void CTradeConfigWidget::readSplitGroup(const TradeParm& parm, const SplitGroup&
 
 void CTradeConfigWidget::readShortcuts(const ShortcutTable& table, const QStringList& texts)
 {
-    for (int row = 0; row < texts.size(); ++row)
-        table.editor(ui, row)->setText(texts.at(row));
+    for (int row = 0; row < (ui.*table.table)->rowCount(); ++row) {
+        if (QLineEdit* const cell = table.editor(ui, row))
+            cell->setText(texts.value(row));
+    }
 }
 
 void CTradeConfigWidget::WriteAllParm()
@@ -289,8 +282,10 @@ void CTradeConfigWidget::WriteAllParm()
     ParmBinding::storeRiseIndex(parm, ui, RisePrice::sell);
     ParmBinding::storeRiseChoices(parm, ui, RisePrice::buy);
     ParmBinding::storeRiseChoices(parm, ui, RisePrice::sell);
-    ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts, textsOf(stockEditors));
-    ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts, textsOf(creditEditors));
+    ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts,
+                                ShortcutTable::stock.cellTexts(ui, stockEditors));
+    ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts,
+                                ShortcutTable::credit.cellTexts(ui, creditEditors));
 
     m_pTrade->SaveTradeParm();
     CloseDlg();
@@ -532,16 +527,17 @@ void CTradeConfigWidget::SetLineEditEnable2(int row, bool enable)
 void CTradeConfigWidget::keyCaptured(const ShortcutTable& table, QStringList& texts, int row,
                                      const QString& text)
 {
-    if (row < 0 || row >= texts.size())
+    if (row < 0 || row >= (ui.*table.table)->rowCount())
         return;
-    if (table.ignoresUnchangedKey && texts.at(row) == text)
+    const bool listed = row < texts.size();
+    if (table.ignoresUnchangedKey && listed && texts.at(row) == text)
         return;
 
     const ShortcutTable::Check check = table.check(texts, row, text);
-    if (check.verdict != ShortcutTable::Verdict::GlobalHotkey)
+    if (listed && check.verdict != ShortcutTable::Verdict::GlobalHotkey)
         texts[row] = text;
-    auto* const sending = qobject_cast<CTableLineEdit*>(sender());
-    table.showVerdict(ui, sending ? *sending : *table.editor(ui, row), row, text, check);
+    QLineEdit* const sending = qobject_cast<CTableLineEdit*>(sender());
+    table.showVerdict(ui, sending ? sending : table.editor(ui, row), row, text, check);
     if (check.verdict == ShortcutTable::Verdict::Emptied)
         return;
 

@@ -4,13 +4,13 @@
 #include "ui_CTradeConfigWidget.h"
 
 #include <QMap>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 #include <QWidget>
 
 class CSwitchEx;
-class CTableLineEdit;
 class CTipLabel;
 struct RisePrice;
 struct ShortcutTable;
@@ -146,7 +146,7 @@ private:
     void endRiseEdit(const RisePrice& price, const QString& text);
     void keyCaptured(const ShortcutTable& table, QStringList& texts, int row, const QString& text);
 
-    // By table row. A cell of the table is found by a search that costs more than its text.
-    QVector<CTableLineEdit*> stockEditors;
-    QVector<CTableLineEdit*> creditEditors;
+    // As the tables were built, by row.
+    QVector<QPointer<QLineEdit>> stockEditors;
+    QVector<QPointer<QLineEdit>> creditEditors;
 };

@@ -108,6 +108,8 @@ void setReadOnlyItem(QTableWidget& table, int row, int column, const char* text)
     table.setItem(row, column, item);
 }
 
+QString textOf(const QTableWidgetItem* item) { return item ? item->text() : QString(); }
+
 CTableLineEdit* addRow(QTableWidget& table, int row, const char* function)
 {
     setReadOnlyItem(table, row, FunctionColumn, function);
@@ -174,17 +176,19 @@ int ShortcutTable::firstDuplicate(const QStringList& texts, int row, const QStri
     return -1;
 }
 
-void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, CTableLineEdit& captor, int row,
+void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* captor, int row,
                                 const QString& text, const Check& check) const
 {
     const QTableWidget& widget = *(ui.*table);
     if (check.verdict == Verdict::Emptied) {
-        captor.setText(CTradeConfigWidget::tr("空"));
+        if (captor)
+            captor->setText(CTradeConfigWidget::tr("空"));
         return;
     }
 
     const bool accepted = check.verdict == Verdict::Accepted;
-    StyleMark::set(captor, accepted);
+    if (captor)
+        StyleMark::set(*captor, accepted);
     QString status;
     if (accepted)
         status = CTradeConfigWidget::tr(normalStatus);
@@ -194,23 +198,42 @@ void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, CTableLineEdit&
     else
         //: %1 is the trading function that already has the key
         status = CTradeConfigWidget::tr("与%1重复")
-                     .arg(widget.item(check.duplicateRow, FunctionColumn)->text());
-    QTableWidgetItem& item = *widget.item(row, StatusColumn);
-    item.setForeground(QBrush(accepted ? Qt::green : Qt::red));
-    item.setText(status);
+                     .arg(textOf(widget.item(check.duplicateRow, FunctionColumn)));
+    if (QTableWidgetItem* const item = widget.item(row, StatusColumn)) {
+        item->setForeground(QBrush(accepted ? Qt::green : Qt::red));
+        item->setText(status);
+    }
 }
 
 void ShortcutTable::setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, bool enable) const
 {
     const QTableWidget& widget = *(ui.*table);
     for (int other = 0; other < widget.rowCount(); ++other) {
-        CTableLineEdit* const cell = other == row ? nullptr : editor(ui, other);
+        QLineEdit* const cell = other == row ? nullptr : editor(ui, other);
         if (cell)
             cell->setEnabled(enable);
     }
 }
 
-CTableLineEdit* ShortcutTable::editor(const Ui_CTradeConfigWidget& ui, int row) const
+QLineEdit* ShortcutTable::editor(const Ui_CTradeConfigWidget& ui, int row) const
 {
-    return qobject_cast<CTableLineEdit*>((ui.*table)->cellWidget(row, KeyColumn));
+    return qobject_cast<QLineEdit*>((ui.*table)->cellWidget(row, KeyColumn));
+}
+
+QStringList ShortcutTable::cellTexts(const Ui_CTradeConfigWidget& ui,
+                                     const QVector<QPointer<QLineEdit>>& built) const
+{
+    // A cell is found by a search that costs more than its text. One that was given another
+    // editor has two until the event loop deletes the old one.
+    const bool asBuilt
+        = (ui.*table)->viewport()->children().size() == rowCount && built.size() == rowCount;
+    QStringList texts;
+    texts.reserve(rowCount);
+    for (int row = 0; row < rowCount; ++row) {
+        const QLineEdit* cell = asBuilt ? built.at(row).data() : nullptr;
+        if (!cell)
+            cell = editor(ui, row);
+        texts << (cell ? cell->text() : QString());
+    }
+    return texts;
 }

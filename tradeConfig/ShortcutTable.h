@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <functional>
 
 class CTableLineEdit;
+class QLineEdit;
 class QTableWidget;
 class Ui_CTradeConfigWidget;
 
@@ -41,14 +44,20 @@ struct ShortcutTable {
     Check check(const QStringList& texts, int row, const QString& text) const;
 
     /// Colours @p captor, the editor that captured @p text, and sets the row's status for @p check.
-    void showVerdict(const Ui_CTradeConfigWidget& ui, CTableLineEdit& captor, int row,
+    /// What is missing, the editor or the status, is left out.
+    void showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* captor, int row,
                      const QString& text, const Check& check) const;
 
     /// Enables or disables the editors of every row except @p row.
     void setOthersEnabled(const Ui_CTradeConfigWidget& ui, int row, bool enable) const;
 
-    /// The editor in the key column; null outside the table.
-    CTableLineEdit* editor(const Ui_CTradeConfigWidget& ui, int row) const;
+    /// The line edit in the key column; null if there is none.
+    QLineEdit* editor(const Ui_CTradeConfigWidget& ui, int row) const;
+
+    /// The texts in the key column, by row; empty where there is no line edit. @p built are the
+    /// editors that the table was built with: another cell costs a search.
+    QStringList cellTexts(const Ui_CTradeConfigWidget& ui,
+                          const QVector<QPointer<QLineEdit>>& built) const;
 
     /// The first entry equal to @p text, in ascending order and leaving out @p row; -1 if none.
     static int firstDuplicate(const QStringList& texts, int row, const QString& text);
