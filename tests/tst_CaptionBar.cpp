@@ -50,6 +50,10 @@ private slots:
     void painting_data();
     void painting();
     void frameChangeRepaints();
+    void dragFollowsWhereTheWindowWent();
+    void titleMakesRoom();
+    void addedPartsAreLaidOut();
+    void filterOnlyWithAMaximizeButton();
 };
 
 namespace {
@@ -685,6 +689,94 @@ void tst_CaptionBar::frameChangeRepaints()
     framed.bar->setFrameEnabled(true);
     QTRY_VERIFY(
         !(calls += RecordingSkin::takeCalls()).filter(QStringLiteral("FrameCaption")).isEmpty());
+}
+
+// The window system may put the window elsewhere than it was asked to.
+void tst_CaptionBar::dragFollowsWhereTheWindowWent()
+{
+    class Stubborn : public QWidget {
+    protected:
+        void moveEvent(QMoveEvent*) override
+        {
+            if (pos().y() > 200)
+                move(pos().x(), 200);
+        }
+    };
+    Stubborn window;
+    window.overrideWindowFlags(Qt::Window | Qt::FramelessWindowHint | AllHints);
+    CCaptionBar bar(&window);
+    window.setGeometry(200, 150, 400, 300);
+    bar.setGeometry(0, 0, 400, 30);
+    window.show();
+    window.move(200, 150);
+    mouse(&bar, QEvent::MouseButtonPress, QPoint(210, 160));
+    QCOMPARE(bar.dragOffset, QPoint(10, 10));
+    mouse(&bar, QEvent::MouseMove, QPoint(230, 260));
+    QCOMPARE(window.pos(), QPoint(220, 200));
+    QCOMPARE(bar.dragOffset, QPoint(10, 60));
+    mouse(&bar, QEvent::MouseMove, QPoint(230, 250));
+    QCOMPARE(window.pos(), QPoint(220, 190));
+}
+
+void tst_CaptionBar::titleMakesRoom()
+{
+    Framed framed;
+    framed.window.setWindowTitle(QStringLiteral("title"));
+    framed.window.show();
+    const QSize with = framed.bar->layout()->totalSizeHint();
+    const int x = framed.bar->closeButton->x();
+    framed.bar->setTitleEnabled(false);
+    QVERIFY(!framed.bar->titleLabel->isVisible());
+    QVERIFY(framed.bar->layout()->totalSizeHint().width() < with.width());
+    framed.bar->setTitleEnabled(true);
+    QCOMPARE(framed.bar->layout()->totalSizeHint(), with);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(framed.bar->closeButton->x(), x);
+}
+
+void tst_CaptionBar::addedPartsAreLaidOut()
+{
+    Framed framed;
+    framed.window.show();
+    QCoreApplication::sendPostedEvents();
+    const int before = framed.bar->closeButton->x();
+    auto* const added = new QWidget;
+    added->setFixedSize(20, 10);
+    framed.bar->addCaptionWidget(added);
+    added->show();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(framed.bar->closeButton->x(), before - 30);
+    QCOMPARE(added->geometry(), QRect(before - 6, 10, 20, 10));
+    framed.bar->addCaptionItem(new QSpacerItem(40, 10, QSizePolicy::Fixed, QSizePolicy::Fixed));
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(framed.bar->closeButton->x() <= before - 70);
+}
+
+void tst_CaptionBar::filterOnlyWithAMaximizeButton()
+{
+    class Watching : public CCaptionBar {
+    public:
+        using CCaptionBar::CCaptionBar;
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            ++filtered;
+            return CCaptionBar::eventFilter(watched, event);
+        }
+        int filtered = 0;
+    };
+    for (const bool maximize : {true, false}) {
+        QWidget window;
+        window.overrideWindowFlags(
+            Qt::Window | Qt::FramelessWindowHint
+            | (maximize ? AllHints : AllHints & ~Qt::WindowMaximizeButtonHint));
+        Watching bar(&window);
+        QEvent change(QEvent::WindowStateChange);
+        QCoreApplication::sendEvent(&window, &change);
+        QCOMPARE(bar.filtered, maximize ? 1 : 0);
+        // Whoever installs it there all the same does no harm.
+        QVERIFY(!bar.eventFilter(&window, &change));
+        QVERIFY(!bar.eventFilter(&bar, &change));
+    }
 }
 
 TRADECONFIG_TEST_MAIN(tst_CaptionBar)

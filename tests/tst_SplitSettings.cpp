@@ -252,6 +252,9 @@ private slots:
     void tipForNoWidget();
     void tipIsReused_data() { bothGroups(); }
     void tipIsReused();
+    void tipGoesAwayByItself();
+    void leavingTheWindowChecksToo();
+    void riseChoicesAreNotCleared();
 
     void strategyRows_data();
     void strategyRows();
@@ -1131,6 +1134,44 @@ void tst_SplitSettings::confirmRefusesInKeyOrder()
     QCOMPARE(session.trade.saves, 1);
     QCOMPARE(session.trade.parm().splitMaxQty, 200);
     QVERIFY(!session.widget->isVisible());
+}
+
+void tst_SplitSettings::tipGoesAwayByItself()
+{
+    const Session session(0, 2);
+    QVERIFY(session.shown);
+    session.enter(Base, QStringLiteral("99"));
+    QVERIFY(session.tip().isVisible());
+    QVERIFY(session.tip().graphicsEffect());
+    QTRY_VERIFY(!session.tip().isVisible());
+    session.widget->ShowInputErrorMsg(&session.edit(Upper), QStringLiteral("again"), 160);
+    QVERIFY(session.tip().isVisible());
+    QTRY_VERIFY(!session.tip().isVisible());
+}
+
+void tst_SplitSettings::leavingTheWindowChecksToo()
+{
+    const Session session(0, 2);
+    QVERIFY(session.shown);
+    for (const Qt::FocusReason reason :
+         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::OtherFocusReason}) {
+        session.widget->inputValidity.clear();
+        session.edit(Base).setText(QStringLiteral("99"));
+        QFocusEvent leaving(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(&session.edit(Base), &leaving);
+        QCOMPARE(session.widget->inputValidity.value(session.key(Base), true), false);
+        QCOMPARE(session.edit(Base).styleSheet(), red);
+    }
+}
+
+void tst_SplitSettings::riseChoicesAreNotCleared()
+{
+    const Rise buy(false);
+    const Rise sell(true);
+    buy.session.widget->ReadAllParm();
+    sell.session.widget->ReadAllParm();
+    QCOMPARE(buy.items().join(QLatin1Char(' ')), QStringLiteral("1 2 3 1 2 3"));
+    QCOMPARE(sell.items().join(QLatin1Char(' ')), QStringLiteral("10 20 30 10 20 30"));
 }
 
 TRADECONFIG_TEST_MAIN(tst_SplitSettings)

@@ -69,6 +69,7 @@ private slots:
     void keypadIsIgnored_data();
     void keypadIsIgnored();
     void unknownKey();
+    void keyZero();
     void theTextOfTheEventDoesNotMatter();
     void repeatedPress();
     void disabledTakesNoKeys();
@@ -86,6 +87,7 @@ private slots:
     void noDrop();
     void noMiddleButton();
     void editFinishedReportsNothing();
+    void editFinishedIsConnected();
 };
 
 void tst_TableLineEdit::construction()
@@ -523,6 +525,28 @@ void tst_TableLineEdit::editFinishedReportsNothing()
     QVERIFY(!host.editor->hasFocus());
     QCOMPARE(reported.size(), 0);
     QCOMPARE(host.editor->text(), QStringLiteral("F8"));
+}
+
+// A key that the platform has no code for is no unknown key: its sequence is empty.
+void tst_TableLineEdit::keyZero()
+{
+    Host host;
+    host.editor->setText(QStringLiteral("F8"));
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier);
+    QCoreApplication::sendEvent(host.editor, &press);
+    QCOMPARE(host.editor->text(), QString());
+    QCOMPARE(reported.size(), 1);
+    QCOMPARE(reported.constFirst(), QVariantList({1, QString()}));
+}
+
+void tst_TableLineEdit::editFinishedIsConnected()
+{
+    CTableLineEdit editor(0);
+    QVERIFY(QObject::disconnect(&editor, &QLineEdit::editingFinished, &editor,
+                                &CTableLineEdit::EditFinished));
+    QVERIFY(!QObject::disconnect(&editor, &QLineEdit::editingFinished, &editor,
+                                 &CTableLineEdit::EditFinished));
 }
 
 TRADECONFIG_TEST_MAIN(tst_TableLineEdit)

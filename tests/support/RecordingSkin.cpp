@@ -7,11 +7,18 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <type_traits>
+#include <utility>
+
+// Any library may implement it, so nothing of it may lie in the object.
+static_assert(std::is_empty_v<CorvelSkin::CSkin>);
+
 namespace {
 
 struct Recorder {
     QStringList calls;
     QStringList measurements;
+    int instances = 0;
     std::function<QSizeF(const QString&, const QString&)> sizeOf;
     QHash<QString, QSizeF> bitmaps;
 };
@@ -55,6 +62,8 @@ QStringList takeCalls() { return std::exchange(recorder().calls, {}); }
 
 QStringList takeMeasurements() { return std::exchange(recorder().measurements, {}); }
 
+int takeInstances() { return std::exchange(recorder().instances, 0); }
+
 void setTextSize(std::function<QSizeF(const QString&, const QString&)> sizeOf)
 {
     recorder().sizeOf = std::move(sizeOf);
@@ -72,6 +81,7 @@ namespace CorvelSkin {
 CSkin* CSkin::Instance()
 {
     static CSkin instance;
+    ++recorder().instances;
     return &instance;
 }
 

@@ -29,6 +29,9 @@ QStringList takeCalls();
 /// The measurements since the last take, in order.
 QStringList takeMeasurements();
 
+/// How often the service was asked for since the last take.
+int takeInstances();
+
 /// Default: 10 pixels a character, 16 high, whatever the font.
 void setTextSize(std::function<QSizeF(const QString& fontKey, const QString& text)> sizeOf);
 
