@@ -71,7 +71,9 @@ void tst_SkinInstance::imageButton()
     CImageButton button(nullptr);
     button.setSingleImage(QStringLiteral("logo"), 3, true, false);
     button.resize(14, 14);
-    for (int time = 0; time < 2; ++time) {
+    for (int time = 0; time < 4; ++time) {
+        if (time == 2)
+            button.setImage(QStringLiteral("PanelClose"), QString(), QString(), QString());
         const Asked asked = painted(button);
         QCOMPARE(asked.uses, 1);
         QCOMPARE(asked.instances, 1);
@@ -82,9 +84,11 @@ void tst_SkinInstance::messageBox()
 {
     CMessageBox box(nullptr, QMessageBox::Information, QStringLiteral("text"),
                     QStringLiteral("title"), QMessageBox::Ok, -1);
-    const Asked asked = painted(box);
-    QVERIFY(asked.uses >= 2);
-    QCOMPARE(asked.instances, asked.uses);
+    for (int time = 0; time < 2; ++time) {
+        const Asked asked = painted(box);
+        QVERIFY(asked.uses >= 2);
+        QCOMPARE(asked.instances, asked.uses);
+    }
 }
 
 void tst_SkinInstance::switchBar_data()
@@ -110,18 +114,20 @@ void tst_SkinInstance::switchBar()
     CSwitchEx bar(nullptr, orientation, QMargins(1, 1, 1, 1));
     bar.changeMode(CSwitchEx::SwitchMode(mode));
     bar.resize(400, 400);
+    RecordingSkin::setBitmapSize(QStringLiteral("image"), QSizeF(20, 20));
     RecordingSkin::takeMeasurements();
     RecordingSkin::takeInstances();
     SwitchItem* first = nullptr;
     for (int item = 0; item < (crowded ? 60 : 3); ++item) {
         SwitchItem* const added = bar.AddNormalSwitch(QString::number(item), nullptr, false,
                                                       item == 1 ? &menu : nullptr);
+        bar.AddImageSwitch(QString::number(item), QStringLiteral("image"), QStringLiteral("sel"));
         first = first ? first : added;
     }
     bar.SetCurSel(first, false);
     QCOMPARE(RecordingSkin::takeInstances(), RecordingSkin::takeMeasurements().size());
     const Asked asked = painted(bar);
-    QVERIFY(mode == 6 || asked.uses > 0); // images alone, in the sixth
+    QVERIFY(asked.uses > 0);
     QCOMPARE(asked.instances, asked.uses);
     bar.ClearAll();
 }
