@@ -9,6 +9,9 @@ test_packages=(
     clang libgnustep-base-dev gobjc++ libbenchmark-dev
     xvfb xauth openbox xdotool x11-utils binutils file python3
 )
+# What clang links for sanitizers, coverage and fuzzing, and what reads and names its results;
+# clang only recommends them.
+clang_runtime_packages=(libclang-rt-dev llvm)
 
 say() { printf '== %s\n' "$*"; }
 
