@@ -9,7 +9,7 @@ build_benchmarks() {
     install_packages "${build_packages[@]}" libbenchmark-dev python3 "$@"
     say "Building"
     cmake --preset default -DTRADECONFIG_BENCHMARKS=ON >/dev/null
-    cmake --build --preset default --target bench-time bench-count bench-memory
+    cmake --build --preset default --target tradeConfigBenchmarks
     say "Checking that module and floor show and store the same"
     build/bin/bench-count --check
 }
