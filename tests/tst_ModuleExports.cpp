@@ -11,6 +11,16 @@ namespace {
 
 QString modulePath() { return QString::fromUtf8(MODULE_PATH); }
 
+// On macOS every symbol of C has an underscore before it.
+#ifdef Q_OS_MACOS
+const QString symbolPrefix = QStringLiteral("_");
+const QStringList listDefined{QStringLiteral("-g"), QStringLiteral("-U"), QStringLiteral("-P")};
+#else
+const QString symbolPrefix;
+const QStringList listDefined{QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                              QStringLiteral("--format=posix")};
+#endif
+
 } // namespace
 
 class tst_ModuleExports : public QObject {
@@ -18,6 +28,7 @@ class tst_ModuleExports : public QObject {
 
 private slots:
     void exactlySevenSymbols();
+    void listForTheLinkerOfMacOs();
     void loadsAndMakesTheDialog();
     void namesAreUnmangled_data();
     void namesAreUnmangled();
@@ -26,9 +37,7 @@ private slots:
 void tst_ModuleExports::exactlySevenSymbols()
 {
     QProcess lister;
-    lister.start(QStringLiteral("nm"),
-                 {QStringLiteral("-D"), QStringLiteral("--defined-only"),
-                  QStringLiteral("--format=posix"), modulePath()});
+    lister.start(QStringLiteral("nm"), listDefined + QStringList{modulePath()});
     QVERIFY2(lister.waitForFinished(), qPrintable(lister.errorString()));
     QCOMPARE(lister.exitCode(), 0);
     QStringList names;
@@ -37,7 +46,9 @@ void tst_ModuleExports::exactlySevenSymbols()
         if (line.isEmpty())
             continue;
         const QList<QByteArray> columns = line.split(' ');
-        names << QString::fromLatin1(columns.at(0));
+        const QString name = QString::fromLatin1(columns.at(0));
+        QVERIFY2(name.startsWith(symbolPrefix), qPrintable(name));
+        names << name.mid(symbolPrefix.size());
         QCOMPARE(columns.at(1), QByteArray("T")); // functions, all of them
     }
     names.sort();
@@ -45,6 +56,17 @@ void tst_ModuleExports::exactlySevenSymbols()
              QStringLiteral("ApplicationHomePath CreateModuleWidget GetDiskId "
                             "GetMainExecutableVersion GetMainExecutableVersionNum GetSystemUuid "
                             "hideWindowCaptionBar"));
+}
+
+void tst_ModuleExports::listForTheLinkerOfMacOs()
+{
+    QFile list(QStringLiteral(EXPORTS_LIST));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    QCOMPARE(list.readAll(),
+             QByteArray("_CreateModuleWidget\n_ApplicationHomePath\n"
+                        "_hideWindowCaptionBar\n_GetMainExecutableVersion\n"
+                        "_GetMainExecutableVersionNum\n_GetDiskId\n"
+                        "_GetSystemUuid\n"));
 }
 
 void tst_ModuleExports::loadsAndMakesTheDialog()

@@ -8,6 +8,7 @@ namespace TestSupport {
 void prepareEnvironment(const QString& home)
 {
     qputenv("HOME", home.toLocal8Bit());
+    qputenv("CFFIXED_USER_HOME", home.toLocal8Bit()); // what macOS goes by instead
     qunsetenv("XDG_CONFIG_HOME");
     qunsetenv("XDG_DATA_HOME");
     qputenv("LC_ALL", "C.UTF-8");
