@@ -15,6 +15,9 @@ clang_runtime_packages=(libclang-rt-dev llvm)
 
 say() { printf '== %s\n' "$*"; }
 
+# How many processes may run side by side. macOS has no nproc.
+processors() { getconf _NPROCESSORS_ONLN; }
+
 # install_packages NAME...: installs with apt-get what dpkg does not list as installed.
 install_packages() {
     local missing=() name
