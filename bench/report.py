@@ -1,7 +1,8 @@
 """Prints measured figures beside their floors and the targets that were set.
 
-usage: report.py time BENCHMARK_JSON MEMORY_FILE | report.py instructions COUNTS_FILE
-exit status 1 if a target was missed.
+usage: report.py time BENCHMARK_JSON MEMORY_FILE
+       report.py instructions COUNTS_FILE [some]    some: not every subject was counted
+exit status 1 if a target was missed, or has no figure although every subject was measured.
 """
 import json
 import re
@@ -26,6 +27,7 @@ CAPTURE_LIMIT_US = 100
 CAPTURES = ("key capture, accepted", "key capture, verdict turns")
 # From 1,000 to 10,000 items: 10 is linear, 100 quadratic.
 GROWTH_LIMIT = 15
+GROWTHS = ("scrolled", "in sight")
 MEMORY_RATIOS = {
     "heap bytes of an open dialog": 1.05,
     "heap blocks of an open dialog": 1.05,
@@ -37,12 +39,18 @@ ADDED = re.compile(r"add (\d+) (.*)")
 
 
 class Report:
-    def __init__(self):
+    def __init__(self, complete=True):
         self.missed = 0
+        self.complete = complete
 
     def verdict(self, passed):
         self.missed += not passed
         return "pass" if passed else "MISS"
+
+    def without_figures(self, names):
+        """Targets whose subject was renamed or removed would be forgotten."""
+        for name in names if self.complete else ():
+            print(f"{name:44}{'no figure':>14}  {self.verdict(False)}")
 
     def ratios(self, figures, targets, form):
         print(f"\n{'':44}{'module':>14}{'floor':>14}{'ratio':>8}  target")
@@ -54,11 +62,13 @@ class Report:
             if name in targets:
                 line += f"  <= {targets[name]:.2f}  {self.verdict(ratio <= targets[name])}"
             print(line)
+        self.without_figures(name for name in targets if name not in figures)
 
     def growth(self, figures, form):
         print(f"\n{'adding n items':28}{'n':>8}{'module':>14}{'per item':>12}{'floor':>14}"
               f"{'growth':>8}")
         last = {}
+        judged = set()
         for name, (module, floor) in figures.items():
             added = ADDED.match(name)
             if not added:
@@ -71,19 +81,28 @@ class Report:
                 line += f"{growth:8.1f}"
                 if count == 10000:
                     line += f"  <= {GROWTH_LIMIT}  {self.verdict(growth <= GROWTH_LIMIT)}"
+                    judged.add(how)
             last[how] = module
             print(line)
+        self.without_figures(f"growth, {how}" for how in GROWTHS if how not in judged)
 
     def captures(self, figures):
         print()
+        self.without_figures(name for name in CAPTURES if name not in figures)
         for name in CAPTURES:
+            if name not in figures:
+                continue
             module = figures[name][0]
             print(f"{name:44}{module:14.1f} us          <= {CAPTURE_LIMIT_US} us"
                   f"  {self.verdict(module <= CAPTURE_LIMIT_US)}")
 
     def memory(self, figures):
-        self.ratios({name: figures[name] for name in MEMORY_RATIOS}, MEMORY_RATIOS, whole)
+        self.ratios({name: figures[name] for name in MEMORY_RATIOS if name in figures},
+                    MEMORY_RATIOS, whole)
+        self.without_figures(name for name in NOTHING_LEFT if name not in figures)
         for name in NOTHING_LEFT:
+            if name not in figures:
+                continue
             module = figures[name][0]
             print(f"{name:44}{module:14,.0f}{figures[name][1]:14,.0f}          = 0"
                   f"     {self.verdict(module == 0)}")
@@ -136,7 +155,7 @@ def read_memory(path):
 
 def main():
     kind, *paths = sys.argv[1:]
-    report = Report()
+    report = Report(complete="some" not in paths)
     if kind == "time":
         figures = read_times(paths[0])
         print("CPU time, the least of all repetitions")
