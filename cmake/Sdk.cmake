@@ -14,6 +14,20 @@ install(FILES
     tradeConfig/platform/HostPlatform.h
     tradeConfig/skin/CSkin.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tradeConfig)
+# What is not in tradeConfig/ itself is found under its name in this tree too, by a header that
+# includes the one above: a compiler takes two copies of one header for two headers.
+foreach(header platform/HostPlatform.h skin/CSkin.h)
+    get_filename_component(directory ${header} DIRECTORY)
+    get_filename_component(name ${header} NAME)
+    set(forwarding ${PROJECT_BINARY_DIR}/sdk/${header})
+    file(CONFIGURE OUTPUT ${forwarding} CONTENT "#include \"../${name}\"\n" @ONLY)
+    install(FILES ${forwarding}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tradeConfig/${directory})
+endforeach()
+install(FILES tradeConfig/skin/SkinKeys.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tradeConfig/skin)
+install(FILES libskin/SkinExport.h libskin/SkinLibrary.h libskin/SkinTable.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/libskin)
 
 install(EXPORT tradeConfigTargets NAMESPACE tradeConfig:: DESTINATION ${package_directory})
 configure_package_config_file(cmake/tradeConfigConfig.cmake.in

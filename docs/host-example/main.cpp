@@ -2,6 +2,8 @@
 #include <tradeConfig/ITrade.h>
 #include <tradeConfig/ModuleEntry.h>
 
+#include <libskin/SkinLibrary.h>
+
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
@@ -39,6 +41,15 @@ private:
     TradeParm m_parm{};
 };
 
+// The standard controls go by the palette, the module's own by the skin service.
+bool useSkin(const QString& nameOrFolder)
+{
+    auto* const skins = CorvelSkin::SkinLibrary::instance();
+    QObject::connect(skins, &CorvelSkin::SkinLibrary::skinChanged, qApp,
+                     [skins] { QApplication::setPalette(skins->palette()); });
+    return skins->load(nameOrFolder);
+}
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
@@ -46,6 +57,9 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("settingshost"));
     QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
     std::printf("data directory: %s\n", ApplicationHomePath());
+    if (useSkin(QStringLiteral("dark")))
+        std::printf("window colour: %s\n",
+                    qPrintable(QApplication::palette().window().color().name()));
 
     TradingCore core; // outlives the dialog
     const std::unique_ptr<QWidget> dialog(static_cast<QWidget*>(CreateModuleWidget(&core)));

@@ -11,6 +11,7 @@ cmake --install "$build" --prefix "$work/prefix" >"$work/install.log"
 find "$work/prefix" -type f | sed "s|$work/prefix/||" | sort >"$work/files"
 for file in include/tradeConfig/ITrade.h include/tradeConfig/ModuleEntry.h \
     include/tradeConfig/HostPlatform.h include/tradeConfig/CSkin.h \
+    include/tradeConfig/skin/SkinKeys.h include/libskin/SkinLibrary.h \
     'lib.*/libtradeConfig.so' 'lib.*/libskin.so' bin/tradeclient bin/restart \
     share/tradeConfig/skins/light/skin.json share/tradeConfig/skins/dark/skin.json \
     'lib.*/cmake/tradeConfig/tradeConfigConfig.cmake' 'lib.*/pkgconfig/tradeConfig.pc'; do
@@ -27,6 +28,11 @@ cmake --build "$work/host" >"$work/build.log" || { cat "$work/build.log"; exit 1
 "$work/host/settingsHost" --once | tee "$work/said"
 grep -qx "data directory: $HOME/.com.example.settingshost" "$work/said"
 
+# Its palette is the dark skin's.
+window=$(sed -n 's/.*"Window": "\(#[0-9A-Fa-f]*\)".*/\1/p' \
+    "$work/prefix/share/tradeConfig/skins/dark/skin.json" | head -n 1)
+grep -qix "window colour: $window" "$work/said"
+
 # By pkg-config.
 pc=$(dirname "$(find "$work/prefix" -name tradeConfig.pc)")
 # shellcheck disable=SC2046
@@ -34,6 +40,22 @@ pc=$(dirname "$(find "$work/prefix" -name tradeConfig.pc)")
     $(PKG_CONFIG_PATH=$pc pkg-config --cflags --libs tradeConfig)
 LD_LIBRARY_PATH=$(dirname "$(find "$work/prefix" -name libtradeConfig.so)") \
     "$work/by-pkg-config" --once >/dev/null
+
+# Every header by its name in the tree, and those of tradeConfig/ by their short names as well.
+{
+    for header in ITrade ModuleEntry HostPlatform CSkin platform/HostPlatform skin/CSkin \
+        skin/SkinKeys; do
+        echo "#include <tradeConfig/$header.h>"
+    done
+    echo '#include <libskin/SkinLibrary.h>'
+    echo 'QString border() { return SkinKeys::Colour::SwitchBorder(); }'
+} >"$work/headers.cpp"
+for compiler in "${CXX:-c++}" clang++; do
+    command -v "$compiler" >/dev/null || continue
+    # shellcheck disable=SC2046
+    "$compiler" -std=c++17 -fPIC -fsyntax-only "$work/headers.cpp" \
+        $(PKG_CONFIG_PATH=$pc pkg-config --cflags tradeConfig)
+done
 
 # The installed client finds module and skins from where it was put.
 mv "$work/prefix" "$work/moved"
