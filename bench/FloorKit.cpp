@@ -119,8 +119,8 @@ void FloorBar::paintEvent(QPaintEvent*)
     painter.fillRect(bar, frame);
     outline(painter, bar, border);
     if (m_scrolls) {
-        const QRectF back(width() - scrollButtons, 0, scrollButtons / 2, height());
-        const QRectF forward = back.translated(scrollButtons / 2, 0);
+        const QRectF back(width() - scrollButtons, 0, scrollButtons / 2.0, height());
+        const QRectF forward = back.translated(scrollButtons / 2.0, 0);
         outline(painter, back, buttonBorder);
         outline(painter, forward, buttonBorder);
         painter.setFont(normalFont());

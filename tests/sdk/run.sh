@@ -27,7 +27,6 @@ cmake -S "$source/docs/host-example" -B "$work/host" -G Ninja \
 cmake --build "$work/host" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
 "$work/host/settingsHost" --once | tee "$work/said"
 grep -qx "data directory: $HOME/.com.example.settingshost" "$work/said"
-
 # Its palette is the dark skin's.
 window=$(sed -n 's/.*"Window": "\(#[0-9A-Fa-f]*\)".*/\1/p' \
     "$work/prefix/share/tradeConfig/skins/dark/skin.json" | head -n 1)
