@@ -2,6 +2,7 @@
 #include "client/RecordStore.h"
 #include "client/TradeCore.h"
 #include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "support/Unprivileged.h"
@@ -92,8 +93,6 @@ private slots:
 
 private:
     QString at(const char* name) const { return m_home + QLatin1Char('/') + QLatin1String(name); }
-    static QByteArray contentOf(const QString& name);
-    static void write(const QString& name, const QByteArray& content);
 
     QString m_home;
     QString m_settings;
@@ -118,24 +117,6 @@ void tst_DiskFaults::cleanup()
 {
     bytesLeft = boundless;
     renameError = 0;
-}
-
-QByteArray tst_DiskFaults::contentOf(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void tst_DiskFaults::write(const QString& name, const QByteArray& content)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-    QVERIFY(file.flush());
-    // The toolkit knows a changed file by its size and time, and tests are faster than clocks.
-    static int change = 0;
-    const QDateTime time = QDateTime::currentDateTime().addSecs(-100000 + ++change);
-    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
 }
 
 void tst_DiskFaults::recordOnADiskThatFillsUp()
@@ -234,7 +215,7 @@ void tst_DiskFaults::settingsOnADiskThatFillsUp()
     const QByteArray before = "[UI]\nlanguage=zh_TW\nscale=150\n";
     const QByteArray after = "[UI]\nlanguage=en_US\nscale=200\n";
     for (int room = 0; room < 3 * after.size(); ++room) {
-        write(m_settings, before);
+        writeFile(m_settings, before);
         bytesLeft = room;
         InterfaceSettings::save(2, 200);
         bytesLeft = boundless;
@@ -243,7 +224,7 @@ void tst_DiskFaults::settingsOnADiskThatFillsUp()
         QCOMPARE(QDir(m_home).entryList(QDir::Files | QDir::Hidden).size(), 1);
         QVERIFY(QFile::remove(m_settings));
     }
-    write(m_settings, before);
+    writeFile(m_settings, before);
     InterfaceSettings::save(2, 200);
     QCOMPARE(contentOf(m_settings), after);
 }
@@ -251,7 +232,7 @@ void tst_DiskFaults::settingsOnADiskThatFillsUp()
 void tst_DiskFaults::settingsInAReadOnlyDirectory()
 {
     const QByteArray before = "[UI]\nlanguage=zh_TW\nscale=150\n";
-    write(m_settings, before);
+    writeFile(m_settings, before);
     {
         const Unprivileged user({m_home});
         const ReadOnly locked(m_home);
@@ -265,7 +246,7 @@ void tst_DiskFaults::settingsInAReadOnlyDirectory()
 
 void tst_DiskFaults::settingsThatCannotBeRead()
 {
-    write(m_settings, "[UI]\nlanguage=zh_TW\nscale=150\n");
+    writeFile(m_settings, "[UI]\nlanguage=zh_TW\nscale=150\n");
     const Unprivileged user({m_home, m_settings});
     QVERIFY(QFile::setPermissions(m_settings, QFile::Permissions()));
     QCOMPARE(InterfaceSettings::languageIndex(), 0);
@@ -309,7 +290,7 @@ void tst_DiskFaults::confirmWithAFullDisk()
 void tst_DiskFaults::languageInAReadOnlyDirectory()
 {
     const QByteArray before = "[UI]\nlanguage=zh_TW\nscale=150\n";
-    write(m_settings, before);
+    writeFile(m_settings, before);
     FakeTrade trade;
     CTradeConfigWidget dialog(&trade);
     dialog.show();

@@ -1,4 +1,5 @@
 #include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -23,24 +24,6 @@ QString homeFile() { return homePath() + QStringLiteral("/system_settings.ini");
 QString configPath() { return homePath() + QStringLiteral("/config"); }
 
 QString configFile() { return configPath() + QStringLiteral("/system_settings.ini"); }
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-    QVERIFY(file.flush());
-    // The toolkit knows a changed file by its size and time, and tests are faster than clocks.
-    static int change = 0;
-    const QDateTime time = QDateTime::currentDateTime().addSecs(-100000 + ++change);
-    QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QVariant stored(const char* key)
 {
@@ -87,15 +70,15 @@ private:
 void installRestarter()
 {
     const QString program = homePath() + QStringLiteral("/restart");
-    write(program,
-          "#!/bin/sh\n"
-          "dir=$(dirname \"$0\")\n"
-          "for argument in \"$@\"; do echo \"[$argument]\"; done > \"$dir/started.part\"\n"
-          "mv \"$dir/started.part\" \"$dir/started\"\n");
+    writeFile(program,
+              "#!/bin/sh\n"
+              "dir=$(dirname \"$0\")\n"
+              "for argument in \"$@\"; do echo \"[$argument]\"; done > \"$dir/started.part\"\n"
+              "mv \"$dir/started.part\" \"$dir/started\"\n");
     QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-QByteArray restarted() { return read(homePath() + QStringLiteral("/started")); }
+QByteArray restarted() { return contentOf(homePath() + QStringLiteral("/started")); }
 
 /// Runs the event loop; true if the application asked to quit with code 0.
 bool quits()
@@ -206,7 +189,7 @@ void tst_InterfaceSettings::fallback()
 {
     QVERIFY(QDir(configPath()).removeRecursively());
     QCOMPARE(InterfaceSettings::filePath(), homeFile());
-    write(homeFile(), "[UI]\nlanguage=en_US\nscale=150\n");
+    writeFile(homeFile(), "[UI]\nlanguage=en_US\nscale=150\n");
     QCOMPARE(InterfaceSettings::languageIndex(), 2);
     QCOMPARE(InterfaceSettings::scale(), 150);
 
@@ -219,11 +202,11 @@ void tst_InterfaceSettings::fallback()
 void tst_InterfaceSettings::configThatIsAFile()
 {
     QVERIFY(QDir(configPath()).removeRecursively());
-    write(configPath(), "no directory");
+    writeFile(configPath(), "no directory");
     QCOMPARE(InterfaceSettings::filePath(), homeFile());
     InterfaceSettings::save(2, 200);
     QCOMPARE(InterfaceSettings::languageIndex(), 2);
-    QCOMPARE(read(configPath()), QByteArray("no directory"));
+    QCOMPARE(contentOf(configPath()), QByteArray("no directory"));
 }
 
 void tst_InterfaceSettings::reading_data()
@@ -253,10 +236,10 @@ void tst_InterfaceSettings::reading_data()
 void tst_InterfaceSettings::reading()
 {
     QFETCH(QByteArray, content);
-    write(configFile(), content);
+    writeFile(configFile(), content);
     QTEST(InterfaceSettings::languageIndex(), "language");
     QTEST(InterfaceSettings::scale(), "scale");
-    QCOMPARE(read(configFile()), content);
+    QCOMPARE(contentOf(configFile()), content);
 }
 
 void tst_InterfaceSettings::writing_data()
@@ -277,13 +260,13 @@ void tst_InterfaceSettings::writing()
     InterfaceSettings::save(index, 135);
     QTEST(stored("UI/language").toString(), "code");
     QCOMPARE(stored("UI/scale").toInt(), 135);
-    QVERIFY(read(configFile()).contains("[UI]\n"));
-    QVERIFY(read(configFile()).contains("scale=135\n"));
+    QVERIFY(contentOf(configFile()).contains("[UI]\n"));
+    QVERIFY(contentOf(configFile()).contains("scale=135\n"));
 }
 
 void tst_InterfaceSettings::keepsForeignKeys()
 {
-    write(configFile(), "[Other]\nname=value\n[UI]\nfont=big\nscale=100\n");
+    writeFile(configFile(), "[Other]\nname=value\n[UI]\nfont=big\nscale=100\n");
     InterfaceSettings::save(1, 110);
     QCOMPARE(stored("Other/name").toString(), QStringLiteral("value"));
     QCOMPARE(stored("UI/font").toString(), QStringLiteral("big"));
@@ -292,9 +275,9 @@ void tst_InterfaceSettings::keepsForeignKeys()
 
 void tst_InterfaceSettings::openedAnewEachTime()
 {
-    write(configFile(), "[UI]\nscale=100\n");
+    writeFile(configFile(), "[UI]\nscale=100\n");
     QCOMPARE(InterfaceSettings::scale(), 100);
-    write(configFile(), "[UI]\nscale=1000\n");
+    writeFile(configFile(), "[UI]\nscale=1000\n");
     QCOMPARE(InterfaceSettings::scale(), 1000);
 }
 
@@ -317,7 +300,7 @@ void tst_InterfaceSettings::goodFiles_data()
 void tst_InterfaceSettings::goodFiles()
 {
     QFETCH(QByteArray, content);
-    write(configFile(), content);
+    writeFile(configFile(), content);
     QCOMPARE(InterfaceSettings::scale(), 100);
     InterfaceSettings::save(2, 145);
     QVERIFY(!QFileInfo::exists(configFile() + QStringLiteral(".bad")));
@@ -347,7 +330,7 @@ void tst_InterfaceSettings::badFiles_data()
 void tst_InterfaceSettings::badFiles()
 {
     QFETCH(QByteArray, content);
-    write(configFile(), content);
+    writeFile(configFile(), content);
     QCOMPARE(InterfaceSettings::languageIndex(), 0);
     QCOMPARE(InterfaceSettings::scale(), 0);
     {
@@ -355,23 +338,23 @@ void tst_InterfaceSettings::badFiles()
         QCOMPARE(dialog.language().currentIndex(), 0);
         QCOMPARE(dialog.scale().value(), 100);
     }
-    QCOMPARE(read(configFile()), content);
+    QCOMPARE(contentOf(configFile()), content);
     InterfaceSettings::save(2, 145);
     QCOMPARE(InterfaceSettings::languageIndex(), 2);
     QCOMPARE(InterfaceSettings::scale(), 145);
     QTEST(QFileInfo::exists(configFile() + QStringLiteral(".bad")), "keptAside");
     if (QFileInfo::exists(configFile() + QStringLiteral(".bad")))
-        QCOMPARE(read(configFile() + QStringLiteral(".bad")), content);
+        QCOMPARE(contentOf(configFile() + QStringLiteral(".bad")), content);
 }
 
 void tst_InterfaceSettings::firstBadFileIsKept()
 {
     const QByteArray first("first\n");
-    write(configFile(), first);
+    writeFile(configFile(), first);
     InterfaceSettings::save(1, 150);
-    write(configFile(), "second\n");
+    writeFile(configFile(), "second\n");
     InterfaceSettings::save(2, 145);
-    QCOMPARE(read(configFile() + QStringLiteral(".bad")), first);
+    QCOMPARE(contentOf(configFile() + QStringLiteral(".bad")), first);
     QCOMPARE(InterfaceSettings::scale(), 145);
 }
 
@@ -411,13 +394,13 @@ void tst_InterfaceSettings::fullDisk()
     QFETCH(int, bytes);
     const QByteArray content
         = "[Other]\nfiller=" + QByteArray(4000, 'x') + "\n\n[UI]\nlanguage=zh_TW\nscale=125\n";
-    write(configFile(), content);
+    writeFile(configFile(), content);
     const QStringList before = listing();
     {
         const FullDisk full{rlim_t(bytes)};
         InterfaceSettings::save(2, 300);
     }
-    QCOMPARE(read(configFile()), content);
+    QCOMPARE(contentOf(configFile()), content);
     QCOMPARE(listing(), before);
     QCOMPARE(InterfaceSettings::languageIndex(), 1);
     QCOMPARE(InterfaceSettings::scale(), 125);
@@ -440,13 +423,13 @@ void tst_InterfaceSettings::loadingAsksNothing()
 {
     QFETCH(QByteArray, code);
     const QByteArray content = "[UI]\nlanguage=" + code + "\nscale=200\n";
-    write(configFile(), content);
+    writeFile(configFile(), content);
     const Dialog dialog; // a question would block here for ever
     QTEST(dialog.language().currentIndex(), "index");
     QCOMPARE(dialog.scale().value(), 200);
     QVERIFY(!dialog->restartNeeded);
     QCOMPARE(const_cast<Dialog&>(dialog).trade.parm().languageIndex, 55);
-    QCOMPARE(read(configFile()), content);
+    QCOMPARE(contentOf(configFile()), content);
 }
 
 void tst_InterfaceSettings::loadLanguageIsSilent()
@@ -454,7 +437,7 @@ void tst_InterfaceSettings::loadLanguageIsSilent()
     const Dialog dialog;
     const QSignalSpy changed(&dialog.language(),
                              QOverload<int>::of(&QComboBox::currentIndexChanged));
-    write(configFile(), "[UI]\nlanguage=zh_TW\n");
+    writeFile(configFile(), "[UI]\nlanguage=zh_TW\n");
     dialog->loadLanguage();
     QCOMPARE(dialog.language().currentIndex(), 1);
     QCOMPARE(changed.size(), 0);
@@ -476,7 +459,7 @@ void tst_InterfaceSettings::scaleShown()
 {
     QFETCH(QByteArray, content);
     QFETCH(int, shown);
-    write(configFile(), content);
+    writeFile(configFile(), content);
     const Dialog dialog;
     QCOMPARE(dialog.scale().value(), shown);
     dialog->saveUISettings();
@@ -496,7 +479,7 @@ void tst_InterfaceSettings::languageChangedWritesAtOnce()
 {
     QFETCH(int, index);
     installRestarter();
-    write(configFile(), "[UI]\nlanguage=zh_CN\nscale=150\n");
+    writeFile(configFile(), "[UI]\nlanguage=zh_CN\nscale=150\n");
     Dialog dialog;
     dialog.scale().setValue(160);
     int indexThen = -1;
@@ -531,7 +514,7 @@ void tst_InterfaceSettings::languageChangedStoresItsIndex_data()
 void tst_InterfaceSettings::languageChangedStoresItsIndex()
 {
     QFETCH(int, index);
-    write(configFile(), "[UI]\nlanguage=zh_TW\n");
+    writeFile(configFile(), "[UI]\nlanguage=zh_TW\n");
     Dialog dialog;
     QCOMPARE(dialog.language().currentIndex(), 1);
     {

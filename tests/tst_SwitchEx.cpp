@@ -1,6 +1,7 @@
 #include "tradeConfig/SwitchEx.h"
 
 #include "support/RecordingSkin.h"
+#include "support/ShownBar.h"
 #include "support/TestMain.h"
 #include "support/UpdateCounter.h"
 
@@ -16,26 +17,9 @@ namespace {
 
 QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
-struct ShownParent {
-    ShownParent()
-    {
-        shownParent.setWindowFlags(Qt::FramelessWindowHint);
-        shownParent.resize(400, 400);
-        shownParent.show();
-    }
-    QWidget shownParent;
-};
-
-// A visible bar that frees its items: a resize reaches it at once.
-class Bar : public ShownParent, public CSwitchEx {
+class Bar : public ShownBar {
 public:
-    Bar(Qt::Orientation direction, QSize size, QMargins margins = QMargins())
-        : CSwitchEx(&shownParent, direction, margins)
-    {
-        resize(size);
-        show();
-    }
-    ~Bar() override { ClearAll(); }
+    using ShownBar::ShownBar;
 
     int pixelRatio = 1;
 
@@ -83,7 +67,7 @@ public:
 protected:
     int metric(PaintDeviceMetric which) const override
     {
-        return which == PdmDevicePixelRatio ? pixelRatio : CSwitchEx::metric(which);
+        return which == PdmDevicePixelRatio ? pixelRatio : ShownBar::metric(which);
     }
 };
 

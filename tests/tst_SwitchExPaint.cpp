@@ -1,6 +1,7 @@
 #include "tradeConfig/SwitchEx.h"
 
 #include "support/RecordingSkin.h"
+#include "support/ShownBar.h"
 #include "support/TestMain.h"
 
 #include <QMenu>
@@ -23,26 +24,9 @@ QStringList lines(const char* text)
     return QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-// A hidden bar would be laid out anew whenever it is rendered, over what a test has placed.
-struct ShownParent {
-    ShownParent()
-    {
-        shownParent.resize(300, 300);
-        shownParent.show();
-    }
-    QWidget shownParent;
-};
-
-// A visible bar that frees its items.
-class Bar : private ShownParent, public CSwitchEx {
+class Bar : public ShownBar {
 public:
-    Bar(Qt::Orientation direction, QSize size, QMargins margins = QMargins())
-        : CSwitchEx(&shownParent, direction, margins)
-    {
-        resize(size);
-        show();
-    }
-    ~Bar() override { ClearAll(); }
+    using ShownBar::ShownBar;
 
     QStringList painted()
     {
