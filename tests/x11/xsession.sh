@@ -53,6 +53,6 @@ export DISPLAY=":$number"
 "${bound[@]}" openbox >"$scratch/manager.log" 2>&1 &
 manager=$!
 managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
-wait_for 20 managed || give_up "no window manager"
+wait_for 60 managed || give_up "no window manager"
 
 "$@"
