@@ -11,7 +11,7 @@ namespace {
 void measure(benchmark::State& state, const SubjectEntry& entry)
 {
     const Subject subject = entry.make();
-    for (auto _ : state) {
+    for (auto _ : state) { // NOLINT(clang-analyzer-deadcode.DeadStores)
         if (subject.before) {
             state.PauseTiming();
             subject.before();
