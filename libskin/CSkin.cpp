@@ -24,15 +24,16 @@ struct Bands {
 };
 
 /**
- * @p rect, or if it is the whole device a rectangle one pixel smaller.
+ * @p rect, or if it is the whole of a widget a rectangle one pixel smaller.
  *
- * A stroke one pixel wide lies on the pixel after its line, which the device does not have: an
- * outline of a whole widget would lack two edges.
+ * A stroke one pixel wide lies on the pixel after its line, which the widget does not have: an
+ * outline of all of it would lack two edges. On an image the stroke is what the toolkit's is.
  */
-QRectF withinDevice(const QPainter& painter, const QRectF& rect)
+QRectF withinWidget(const QPainter& painter, const QRectF& rect)
 {
     const QPaintDevice& device = *painter.device();
-    const bool whole = rect == QRectF(0.0, 0.0, device.width(), device.height())
+    const bool whole = device.devType() == QInternal::Widget
+        && rect == QRectF(0.0, 0.0, device.width(), device.height())
         && painter.combinedTransform().isIdentity();
     return whole ? rect.adjusted(0.0, 0.0, -1.0, -1.0) : rect;
 }
@@ -55,7 +56,7 @@ Bands bandsOf(const QPainter& painter, const QRectF& rect)
     if (transform.type() > QTransform::TxScale || scale != transform.m22() || !isWhole(scale)
         || scale < 1.0 || scale > 16.0 || rect.width() < 2.0 || rect.height() < 2.0)
         return {};
-    const QRectF outline = scale > 1.0 ? rect : withinDevice(painter, rect);
+    const QRectF outline = scale > 1.0 ? rect : withinWidget(painter, rect);
     const QRectF onDevice(outline.x() * scale + transform.dx(),
                           outline.y() * scale + transform.dy(), outline.width() * scale,
                           outline.height() * scale);
