@@ -770,7 +770,7 @@ void tst_CaptionBar::filterOnlyWithAMaximizeButton()
             Qt::Window | Qt::FramelessWindowHint
             | (maximize ? AllHints : AllHints & ~Qt::WindowMaximizeButtonHint));
         Watching bar(&window);
-        QEvent change(QEvent::WindowStateChange);
+        QWindowStateChangeEvent change(Qt::WindowNoState);
         QCoreApplication::sendEvent(&window, &change);
         QCOMPARE(bar.filtered, maximize ? 1 : 0);
         // Whoever installs it there all the same does no harm.
