@@ -14,9 +14,8 @@ target_compile_definitions(projectOptions INTERFACE
     QT_NO_CAST_TO_ASCII
     QT_NO_CAST_FROM_BYTEARRAY
     QT_NO_URL_CAST_FROM_STRING
-    # Tests write the keywords. A compiler option that undefines the macro would not do: moc, which
-    # is not given it, would find no test functions.
-    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:WRITES_QT_KEYWORDS>>>:QT_NO_KEYWORDS>
+    # A host may do without the keywords; moc skips what is written with them.
+    QT_NO_KEYWORDS
     QT_DEPRECATED_WARNINGS
     # Release builds would otherwise drop file and function from the log lines.
     QT_MESSAGELOGCONTEXT)

@@ -1,6 +1,7 @@
 #include "tradeConfig/CTradeConfigWidget.h"
 
 #include "support/FakeTrade.h"
+#include "support/MarkingTranslator.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/ModuleEntry.h"
@@ -10,7 +11,6 @@
 
 #include <QDir>
 #include <QSettings>
-#include <QTranslator>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -164,7 +164,7 @@ void clickEntry(CNavWidget* list, int entry)
 class tst_CTradeConfigWidget : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void factoryMakesParentlessDialog();
@@ -363,18 +363,7 @@ void tst_CTradeConfigWidget::otherPageLists()
 
 void tst_CTradeConfigWidget::frameTextsAreTranslated()
 {
-    class Marking : public QTranslator {
-    public:
-        QString translate(const char* context, const char* source, const char*, int) const override
-        {
-            if (qstrcmp(context, "CTradeConfigWidget") != 0)
-                return {};
-            return QStringLiteral("T:") + QString::fromUtf8(source);
-        }
-        bool isEmpty() const override { return false; }
-    };
-    Marking translator;
-    QCoreApplication::installTranslator(&translator);
+    const MarkingTranslator translator;
     Opened opened;
     QStringList texts;
     for (const SwitchItem* const item : qAsConst(opened->switchBar->items))
@@ -391,7 +380,6 @@ void tst_CTradeConfigWidget::frameTextsAreTranslated()
     opened->WriteAllParm();
     QCOMPARE(answer.title(), QStringLiteral("T:提示"));
     QCOMPARE(answer.text(), QStringLiteral("T:") + refusal);
-    QCoreApplication::removeTranslator(&translator);
 }
 
 void tst_CTradeConfigWidget::hiddenControls()
@@ -595,7 +583,7 @@ void tst_CTradeConfigWidget::navigationListsDriveTheirStacks()
            {opened.ui().widget_shortcut, opened.ui().stackedWidget_shortcut}};
     for (const auto& [list, stack] : groups) {
         for (const int index : {1, 2, 0}) {
-            emit list->signal_onclicked(index);
+            Q_EMIT list->signal_onclicked(index);
             for (const auto& [otherList, otherStack] : groups)
                 QCOMPARE(otherStack->currentIndex(), otherStack == stack ? index : 0);
         }

@@ -14,7 +14,7 @@
 class tst_CaptionBar : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { RecordingSkin::reset(); }
     void partsByWindowFlags_data();
     void partsByWindowFlags();

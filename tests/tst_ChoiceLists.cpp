@@ -1,9 +1,8 @@
 #include "support/FakeTrade.h"
+#include "support/MarkingTranslator.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/ChoiceLists.h"
-
-#include <QTranslator>
 
 namespace {
 
@@ -58,24 +57,12 @@ struct BareForm {
     }
 };
 
-class MarkingTranslator : public QTranslator {
-public:
-    MarkingTranslator() { QCoreApplication::installTranslator(this); }
-    QString translate(const char* context, const char* source, const char*, int) const override
-    {
-        if (qstrcmp(context, "CTradeConfigWidget") != 0)
-            return {};
-        return QStringLiteral("T:") + QString::fromUtf8(source);
-    }
-    bool isEmpty() const override { return false; }
-};
-
 } // namespace
 
 class tst_ChoiceLists : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void itemsInOrder_data() { rows(); }
     void itemsInOrder();
     void translatedItems_data() { rows(); }

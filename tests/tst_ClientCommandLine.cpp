@@ -20,7 +20,7 @@ struct Outcome {
 class tst_ClientCommandLine : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { m_home = std::make_unique<QTemporaryDir>(); }
 
     void help();

@@ -22,7 +22,7 @@
 class tst_ClientWindow : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

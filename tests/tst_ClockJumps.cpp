@@ -59,7 +59,7 @@ extern "C" __attribute__((visibility("default"))) time_t time(time_t* now) noexc
 class tst_ClockJumps : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void clocksAreTheTests();
     void countdown_data() { jumps(); }

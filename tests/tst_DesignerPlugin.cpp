@@ -9,7 +9,7 @@
 class tst_DesignerPlugin : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void offersEveryKitWidget();
 };
 

@@ -53,7 +53,7 @@ void openEditConfirmDestroy(FakeTrade& trade, int round)
 class tst_DialogCycles : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void memoryDoesNotGrow();
 };
 

@@ -822,7 +822,7 @@ void quiet(QtMsgType type, const QMessageLogContext& context, const QString& tex
 class tst_DialogModel : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { loud = qInstallMessageHandler(quiet); }
     void cleanupTestCase() { qInstallMessageHandler(loud); }
     void randomUser_data();

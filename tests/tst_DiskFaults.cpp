@@ -75,7 +75,7 @@ extern "C" __attribute__((visibility("default"))) int renameat2(int fromDirector
 class tst_DiskFaults : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

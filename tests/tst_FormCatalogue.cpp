@@ -1,8 +1,8 @@
+#include "support/MarkingTranslator.h"
 #include "support/TestMain.h"
 #include "ui_CTradeConfigWidget.h"
 
 #include <QSet>
-#include <QTranslator>
 
 Q_DECLARE_METATYPE(QMargins)
 
@@ -188,18 +188,6 @@ const QStringList headings{
 
 QString latin(const char* name) { return QString::fromLatin1(name); }
 
-// Marks what passes through translation, and under which context.
-class MarkingTranslator : public QTranslator {
-public:
-    QString translate(const char* context, const char* source, const char*, int) const override
-    {
-        if (qstrcmp(context, "CTradeConfigWidget") != 0)
-            return {};
-        return QStringLiteral("T:") + QString::fromUtf8(source);
-    }
-    bool isEmpty() const override { return false; }
-};
-
 int middle(const QRect& r) { return r.y() + r.height() / 2; }
 
 } // namespace
@@ -207,7 +195,7 @@ int middle(const QRect& r) { return r.y() + r.height() / 2; }
 class tst_FormCatalogue : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void topLevel();
     void everyControl_data();
     void everyControl();
@@ -316,10 +304,9 @@ void tst_FormCatalogue::nothingElse()
 
 void tst_FormCatalogue::everyTextIsTranslated()
 {
-    MarkingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    BareForm translated;
-    QCoreApplication::removeTranslator(&translator);
+    const MarkingTranslator translator;
+    QVERIFY(translator.installed);
+    const BareForm translated;
 
     QCOMPARE(translated.widget.windowTitle(), QStringLiteral("T:CTradeConfigWidget"));
     QCOMPARE(translated.ui.spinBox_scale->suffix(), QStringLiteral("T:%"));

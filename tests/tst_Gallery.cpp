@@ -37,7 +37,7 @@ template <typename Widget> QList<const Widget*> shownIn(const QWidget* page)
 class tst_Gallery : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void pages();
     void switchBars_data();

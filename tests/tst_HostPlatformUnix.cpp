@@ -18,7 +18,7 @@
 class tst_HostPlatformUnix : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void directoryThere();
     void directoryCreatedWithParents();

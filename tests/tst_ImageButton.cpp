@@ -9,7 +9,7 @@
 class tst_ImageButton : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { RecordingSkin::reset(); }
     void afterConstruction();
     void paintsNothingWithoutAnImage();

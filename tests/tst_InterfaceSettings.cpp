@@ -113,7 +113,7 @@ struct Dialog {
 class tst_InterfaceSettings : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void path();

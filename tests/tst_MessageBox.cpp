@@ -17,7 +17,7 @@
 class tst_MessageBox : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { RecordingSkin::reset(); }
     void formAndWindow();
     void captionBar();

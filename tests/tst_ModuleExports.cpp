@@ -26,7 +26,7 @@ const QStringList listDefined{QStringLiteral("-D"), QStringLiteral("--defined-on
 class tst_ModuleExports : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void exactlySevenSymbols();
     void listForTheLinkerOfMacOs();
     void loadsAndMakesTheDialog();

@@ -12,7 +12,7 @@ Q_DECLARE_METATYPE(ParmBinding::Section)
 class tst_ParmBinding : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void sections_data();
     void sections();
 };

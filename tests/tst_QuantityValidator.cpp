@@ -7,7 +7,7 @@
 class tst_QuantityValidator : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void states_data();
     void states();
     void typing_data();

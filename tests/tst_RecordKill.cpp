@@ -11,7 +11,7 @@
 class tst_RecordKill : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void leavesAWholeRecord();
 };
 

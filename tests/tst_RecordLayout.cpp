@@ -117,7 +117,7 @@ const Place places[] = {
 class tst_RecordLayout : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void offsets_data();
     void offsets();
     void sizeAndAlignment();

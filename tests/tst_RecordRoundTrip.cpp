@@ -176,7 +176,7 @@ QString latin(const char* text) { return QString::fromLatin1(text); }
 class tst_RecordRoundTrip : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyMeaning_data();
     void everyMeaning();
     void editedNumbers_data();

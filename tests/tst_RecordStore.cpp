@@ -120,7 +120,7 @@ const Field& field(const QByteArray& name) { return *RecordFields::find(QLatin1S
 class tst_RecordStore : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void everyFieldOfTheRecordIsInTheTable();

@@ -22,7 +22,7 @@ QByteArray contentOf(const QString& name)
 class tst_Restart : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void waitsForTheClientToEnd();

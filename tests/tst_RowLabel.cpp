@@ -5,7 +5,7 @@
 class tst_RowLabel : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void glyphsFitTheRow_data();
     void glyphsFitTheRow();
     void rowsKeepTheirPlace();

@@ -1,4 +1,6 @@
+#include "support/Contrast.h"
 #include "support/FakeTrade.h"
+#include "support/MarkingTranslator.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -7,7 +9,6 @@
 
 #include <QHeaderView>
 #include <QStyleFactory>
-#include <QTranslator>
 
 #include <memory>
 
@@ -113,28 +114,12 @@ private:
     QtMessageHandler m_previous;
 };
 
-double luminance(QRgb colour)
-{
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour))
-        + 0.0722 * linear(qBlue(colour));
-}
-
-double contrast(QRgb one, QRgb other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
 } // namespace
 
 class tst_ShortcutTable : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void setUp_data();
     void setUp();
     void globalTableIsFixed();
@@ -279,7 +264,7 @@ void tst_ShortcutTable::globalTableIsFixed()
     QCOMPARE(showHide->text(), QStringLiteral("F12"));
 
     // Nobody listens to these editors.
-    emit refresh->signal_editFinished(0, QStringLiteral("Ctrl+A"));
+    Q_EMIT refresh->signal_editFinished(0, QStringLiteral("Ctrl+A"));
     QVERIFY(dialog->inputValidity.isEmpty());
     QCOMPARE(dialog->stockShortcutTexts.at(0), QStringLiteral("Ctrl+A"));
     QCOMPARE(table.item(0, 2)->text(), normal);
@@ -537,7 +522,7 @@ void tst_ShortcutTable::emptyTextShowsEmpty()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    emit side.editor(4).signal_editFinished(4, QString());
+    Q_EMIT side.editor(4).signal_editFinished(4, QString());
     QCOMPARE(side.editor(4).text(), QStringLiteral("空"));
     QCOMPARE(side.texts.at(4), QString());
     QCOMPARE(side.editor(4).styleSheet(), QStringLiteral("border:0px;"));
@@ -546,7 +531,7 @@ void tst_ShortcutTable::emptyTextShowsEmpty()
     QVERIFY(!side.hasEntry());
     QCOMPARE(side.enabledRows(), allRows());
     // Two empty keys are no duplicates.
-    emit side.editor(5).signal_editFinished(5, QString());
+    Q_EMIT side.editor(5).signal_editFinished(5, QString());
     QVERIFY(!side.hasEntry());
     QCOMPARE(side.editor(5).text(), QStringLiteral("空"));
 }
@@ -556,7 +541,7 @@ void tst_ShortcutTable::emptyTextKeepsAnError()
     QFETCH(bool, credit);
     const Side side(credit);
     side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
-    emit side.editor(4).signal_editFinished(4, QString());
+    Q_EMIT side.editor(4).signal_editFinished(4, QString());
     QCOMPARE(side.editor(4).text(), QStringLiteral("空"));
     QCOMPARE(side.editor(4).styleSheet(), red);
     QCOMPARE(side.status(4), QStringLiteral("与买入股票重复"));
@@ -630,11 +615,11 @@ void tst_ShortcutTable::globalHotkeysAreExact()
     side.capture(7, Qt::Key_F5, Qt::ShiftModifier);
     QCOMPARE(side.texts.at(7), QStringLiteral("Shift+F5"));
     QVERIFY(side.entry());
-    emit side.editor(7).signal_editFinished(7, QStringLiteral("f5"));
+    Q_EMIT side.editor(7).signal_editFinished(7, QStringLiteral("f5"));
     QVERIFY(side.entry());
-    emit side.editor(7).signal_editFinished(7, QStringLiteral("F1"));
+    Q_EMIT side.editor(7).signal_editFinished(7, QStringLiteral("F1"));
     QVERIFY(side.entry());
-    emit side.editor(7).signal_editFinished(7, QStringLiteral("F5"));
+    Q_EMIT side.editor(7).signal_editFinished(7, QStringLiteral("F5"));
     QVERIFY(!side.entry());
 }
 
@@ -691,7 +676,7 @@ void tst_ShortcutTable::creditIgnoresItsOwnKey()
     Side empty(true);
     empty.texts[3].clear();
     empty.editor(3).setText(QStringLiteral("x"));
-    emit empty.editor(3).signal_editFinished(3, QString());
+    Q_EMIT empty.editor(3).signal_editFinished(3, QString());
     QCOMPARE(empty.editor(3).text(), QStringLiteral("x"));
 }
 
@@ -714,7 +699,7 @@ void tst_ShortcutTable::creditAloneWritesTheList()
     QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
     // Neither an unchanged nor an empty key writes it.
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
-    emit credit.editor(5).signal_editFinished(5, QString());
+    Q_EMIT credit.editor(5).signal_editFinished(5, QString());
     QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
 }
 
@@ -722,13 +707,13 @@ void tst_ShortcutTable::sendingEditorIsMarked()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    emit side.editor(3).signal_editFinished(5, side.texts.at(0));
+    Q_EMIT side.editor(3).signal_editFinished(5, side.texts.at(0));
     QCOMPARE(side.editor(3).styleSheet(), red);
     QCOMPARE(side.editor(5).styleSheet(), QStringLiteral("border:0px;"));
     QCOMPARE(side.status(5), QStringLiteral("与买入股票重复"));
     QCOMPARE(side.status(3), normal);
     QVERIFY(!side.entry());
-    emit side.editor(3).signal_editFinished(5, QString());
+    Q_EMIT side.editor(3).signal_editFinished(5, QString());
     QCOMPARE(side.editor(3).text(), QStringLiteral("空"));
     QVERIFY(side.editor(5).text() != QStringLiteral("空"));
 }
@@ -765,46 +750,32 @@ void tst_ShortcutTable::setLineEditEnableLeavesTheRow()
 
 void tst_ShortcutTable::textsAreTranslated()
 {
-    class Marking : public QTranslator {
-    public:
-        QString translate(const char* context, const char* source, const char*, int) const override
-        {
-            if (qstrcmp(context, "CTradeConfigWidget") != 0)
-                return {};
-            return QStringLiteral("T:") + QString::fromUtf8(source);
+    const MarkingTranslator translator;
+    const Side side(false);
+    for (const char* const name :
+         {"tableWidget_shortcut", "tableWidget_credit", "tableWidget_whole"}) {
+        const QTableWidget& table = side.dialog.table(QString::fromLatin1(name));
+        QCOMPARE(table.horizontalHeaderItem(0)->text(), QStringLiteral("T:功能说明"));
+        QCOMPARE(table.horizontalHeaderItem(1)->text(), QStringLiteral("T:键位设定"));
+        QCOMPARE(table.horizontalHeaderItem(2)->text(), QStringLiteral("T:设置说明"));
+        for (int row = 0; row < table.rowCount(); ++row) {
+            QCOMPARE(table.item(row, 2)->text(), QStringLiteral("T:正常"));
+            if (table.rowCount() == 13)
+                QCOMPARE(table.item(row, 0)->text(), QStringLiteral("T:") + functions.at(row));
         }
-        bool isEmpty() const override { return false; }
-    };
-    Marking translator;
-    QCoreApplication::installTranslator(&translator);
-    {
-        const Side side(false);
-        for (const char* const name :
-             {"tableWidget_shortcut", "tableWidget_credit", "tableWidget_whole"}) {
-            const QTableWidget& table = side.dialog.table(QString::fromLatin1(name));
-            QCOMPARE(table.horizontalHeaderItem(0)->text(), QStringLiteral("T:功能说明"));
-            QCOMPARE(table.horizontalHeaderItem(1)->text(), QStringLiteral("T:键位设定"));
-            QCOMPARE(table.horizontalHeaderItem(2)->text(), QStringLiteral("T:设置说明"));
-            for (int row = 0; row < table.rowCount(); ++row) {
-                QCOMPARE(table.item(row, 2)->text(), QStringLiteral("T:正常"));
-                if (table.rowCount() == 13)
-                    QCOMPARE(table.item(row, 0)->text(), QStringLiteral("T:") + functions.at(row));
-            }
-        }
-        const QTableWidget& whole = side.dialog.table(QStringLiteral("tableWidget_whole"));
-        QCOMPARE(whole.item(0, 0)->text(), QStringLiteral("T:刷新"));
-        QCOMPARE(whole.item(1, 0)->text(), QStringLiteral("T:显示/隐藏交易模块"));
-
-        side.capture(4, Qt::Key_F5);
-        QCOMPARE(side.status(4), QStringLiteral("T:F5为全局快捷键！"));
-        side.capture(4, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(side.status(4), QStringLiteral("T:与T:买入股票重复"));
-        side.capture(4, Qt::Key_F7);
-        QCOMPARE(side.status(4), QStringLiteral("T:正常"));
-        emit side.editor(4).signal_editFinished(4, QString());
-        QCOMPARE(side.editor(4).text(), QStringLiteral("T:空"));
     }
-    QCoreApplication::removeTranslator(&translator);
+    const QTableWidget& whole = side.dialog.table(QStringLiteral("tableWidget_whole"));
+    QCOMPARE(whole.item(0, 0)->text(), QStringLiteral("T:刷新"));
+    QCOMPARE(whole.item(1, 0)->text(), QStringLiteral("T:显示/隐藏交易模块"));
+
+    side.capture(4, Qt::Key_F5);
+    QCOMPARE(side.status(4), QStringLiteral("T:F5为全局快捷键！"));
+    side.capture(4, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(side.status(4), QStringLiteral("T:与T:买入股票重复"));
+    side.capture(4, Qt::Key_F7);
+    QCOMPARE(side.status(4), QStringLiteral("T:正常"));
+    Q_EMIT side.editor(4).signal_editFinished(4, QString());
+    QCOMPARE(side.editor(4).text(), QStringLiteral("T:空"));
 }
 
 void tst_ShortcutTable::everyRowOfTheTableIsFilled()
@@ -843,7 +814,7 @@ void tst_ShortcutTable::theCellIsStored()
     QFETCH(bool, credit);
     Side side(credit);
     const auto keys = credit ? &TradeParm::creditShortcuts : &TradeParm::stockShortcuts;
-    emit side.editor(0).signal_editFinished(0, QString());
+    Q_EMIT side.editor(0).signal_editFinished(0, QString());
     side.editor(7).setText(QStringLiteral("F7"));
     side.dialog->WriteAllParm();
     QCOMPARE(side.texts.at(0), QString());

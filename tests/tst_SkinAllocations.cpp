@@ -53,7 +53,7 @@ int allocationsOf(const std::function<void()>& round)
 
 class tst_SkinAllocations : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void theCounterCounts();
     void fillsAndOutlines();

@@ -206,7 +206,7 @@ QImage everythingDrawn()
 
 class tst_SkinFaults : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void partlyBadSkin_data();
     void partlyBadSkin();

@@ -13,7 +13,7 @@
 class tst_SkinInstance : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { RecordingSkin::reset(); }
     void navigationList();
     void captionBar();

@@ -76,7 +76,7 @@ CSkin* skin() { return CSkin::Instance(); }
 /// The skin of these tests is the light one with a few keys of its own.
 class tst_SkinPaint : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void fillRectHasNoOutline();
     void drawRectMatchesPainter_data();

@@ -1,4 +1,5 @@
 #include "libskin/SkinLibrary.h"
+#include "support/Contrast.h"
 #include "support/MessageCapture.h"
 #include "support/TemporarySkin.h"
 #include "support/TestMain.h"
@@ -10,7 +11,6 @@
 #include <QPainter>
 #include <QProcess>
 #include <QSet>
-#include <cmath>
 
 using CorvelSkin::CSkin;
 using CorvelSkin::SkinLibrary;
@@ -40,27 +40,11 @@ QImage drawnFrame(const QString& key, int count, int index)
     return image;
 }
 
-/// WCAG's relative luminance.
-double luminance(const QColor& colour)
-{
-    const auto linear
-        = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
-}
-
 } // namespace
 
 class tst_SkinShipped : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void lightServesBeforeAnyLoad();
     void namesAreListed();
     void loadsWithoutProblems_data();

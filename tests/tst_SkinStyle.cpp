@@ -1,5 +1,6 @@
 #include "client/SkinStyle.h"
 #include "libskin/SkinLibrary.h"
+#include "support/Contrast.h"
 #include "support/TestMain.h"
 
 #include <QCheckBox>
@@ -9,27 +10,10 @@
 #include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
-#include <cmath>
 
 using CorvelSkin::SkinLibrary;
 
 namespace {
-
-/// WCAG's relative luminance.
-double luminance(const QColor& colour)
-{
-    const auto linear
-        = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
-}
 
 QRect partOf(const QScrollBar& bar, QStyle::SubControl part)
 {
@@ -42,7 +26,7 @@ QRect partOf(const QScrollBar& bar, QStyle::SubControl part)
 
 class tst_SkinStyle : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void thumbStandsOutFromGroove_data();

@@ -7,7 +7,7 @@
 class tst_SkinSwap : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void searchPathYieldsToTheHost();
     void whoPaints_data();
     void whoPaints();

@@ -55,7 +55,7 @@ QImage frameAt(double ratio, const QString& key)
 
 class tst_SkinSwitching : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init();
     void everyOpenWindowRepaints();
     void aFailedSwitchRepaintsToo();

@@ -14,7 +14,7 @@ Q_DECLARE_METATYPE(SplitRules::Verdict)
 class tst_SplitRules : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void check_data();
     void check();
     void clearsCompanion_data();

@@ -213,7 +213,7 @@ QString number(int value) { return QString::number(value); }
 class tst_SplitSettings : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void rules_data();
     void rules();
     void upperLimitSeesHiddenCompanions_data();

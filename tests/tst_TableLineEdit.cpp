@@ -56,7 +56,7 @@ public:
 class tst_TableLineEdit : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void construction();
     void modifiers_data();
     void modifiers();
@@ -520,7 +520,7 @@ void tst_TableLineEdit::editFinishedReportsNothing()
     host.editor->setText(QStringLiteral("F8"));
     const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
     host.editor->EditFinished();
-    emit host.editor->editingFinished();
+    Q_EMIT host.editor->editingFinished();
     host.other->setFocus();
     QVERIFY(!host.editor->hasFocus());
     QCOMPARE(reported.size(), 0);

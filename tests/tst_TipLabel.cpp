@@ -7,7 +7,7 @@
 class tst_TipLabel : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void construction_data();
     void construction();
     void newTextKeepsTheRest();

@@ -119,7 +119,7 @@ QStringList textsOf(const QWidget& widget)
 class tst_Translations : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyTextIsTranslated_data();
     void everyTextIsTranslated();
     void placeholdersSurvive_data();

@@ -6,7 +6,7 @@
 class tst_WrapLabel : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void isAPlainLabelForOrdinaryText_data();
     void isAPlainLabelForOrdinaryText();
     void breaksAWordThatIsTooWide();

@@ -4,7 +4,7 @@
 
 class Around : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void className()
     {
         QCOMPARE(QString(CTradeConfigWidget::staticMetaObject.className()), "CTradeConfigWidget");

@@ -71,7 +71,7 @@ private:
 class tst_EditingOnScreen : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void editsHotkeysAndQuantities();
 };
 

@@ -75,7 +75,7 @@ void activate(const QByteArray& window)
 class tst_RestartOnScreen : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void comesBackInTheNewScale();
 
 private:
