@@ -3,6 +3,7 @@
 #include "DataDirectory.h"
 
 #include "libskin/SkinLibrary.h"
+#include "tradeConfig/SheetFont.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -69,13 +70,9 @@ void SkinSwitcher::applyPalette()
         const QString sheet = widget->styleSheet();
         if (sheet.isEmpty())
             continue;
-        QFont font = widget->font();
-        widget->setStyleSheet(QString());
-        widget->setStyleSheet(sheet);
-        if (widget->font() == font)
-            continue;
-        // A new sheet loses what the widget inherits of its window's font.
-        font.setFamilies(font.families());
-        widget->setFont(font);
+        SheetFont::keep(*widget, [&] {
+            widget->setStyleSheet(QString());
+            widget->setStyleSheet(sheet);
+        });
     }
 }

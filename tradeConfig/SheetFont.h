@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFont>
+#include <QWidget>
+
+namespace SheetFont {
+
+/// Runs @p replaceSheet, which gives @p widget another style sheet, and keeps the widget's font: a
+/// sheet in an old one's place would otherwise lose what is inherited from the window.
+template <typename Replace> void keep(QWidget& widget, const Replace& replaceSheet)
+{
+    QFont font = widget.font();
+    replaceSheet();
+    if (widget.font() == font)
+        return;
+    // As they are: otherwise the family is put in front of them once more or once less.
+    font.setFamilies(font.families());
+    widget.setFont(font);
+}
+
+} // namespace SheetFont
