@@ -1,6 +1,6 @@
 #include "bench/FloorDialog.h"
 
-#include "tradeConfig/RowLabels.h"
+#include "tradeConfig/dialog/RowLabels.h"
 #include "tradeConfig/platform/HostPlatform.h"
 #include "ui_FloorForm.h"
 

@@ -3,7 +3,7 @@
 #include "DataDirectory.h"
 
 #include "libskin/SkinLibrary.h"
-#include "tradeConfig/SheetFont.h"
+#include "tradeConfig/dialog/SheetFont.h"
 
 #include <QAction>
 #include <QActionGroup>

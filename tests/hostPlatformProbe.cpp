@@ -2,7 +2,7 @@
 // process, so each case of tst_HostPlatformUnix asks them in a process of its own, this one.
 // It prints what they said as JSON.
 
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 #include "support/MarkingTranslator.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/ChoiceLists.h"
+#include "tradeConfig/dialog/ChoiceLists.h"
 
 namespace {
 

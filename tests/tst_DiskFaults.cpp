@@ -7,7 +7,7 @@
 #include "support/TestMain.h"
 #include "support/Unprivileged.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QSignalSpy>
 #include <algorithm>

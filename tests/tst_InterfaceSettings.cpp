@@ -3,7 +3,7 @@
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <QDirIterator>

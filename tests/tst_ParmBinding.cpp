@@ -1,7 +1,7 @@
 #include "support/FakeTrade.h"
 #include "support/TestMain.h"
-#include "tradeConfig/ChoiceLists.h"
-#include "tradeConfig/ParmBinding.h"
+#include "tradeConfig/dialog/ChoiceLists.h"
+#include "tradeConfig/dialog/ParmBinding.h"
 #include "ui_CTradeConfigWidget.h"
 
 using ParmBinding::Section;

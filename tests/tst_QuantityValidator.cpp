@@ -1,5 +1,5 @@
 #include "support/TestMain.h"
-#include "tradeConfig/QuantityValidator.h"
+#include "tradeConfig/dialog/QuantityValidator.h"
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -4,7 +4,7 @@
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/ShortcutTable.h"
+#include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "tradeConfig/SplitRules.h"
+#include "tradeConfig/dialog/SplitRules.h"
 
 #include <QtTest>
 

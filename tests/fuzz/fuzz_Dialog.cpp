@@ -8,7 +8,7 @@
 #include "client/RecordFields.h"
 #include "support/FakeTrade.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/SwitchEx.h"
 
 #include <QAbstractButton>

@@ -4,7 +4,7 @@
 #include "FuzzInput.h"
 #include "FuzzSetup.h"
 
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "tradeConfig/QuantityValidator.h"
+#include "tradeConfig/dialog/QuantityValidator.h"
 
 QuantityValidator::QuantityValidator(int bottom, int top, QObject* parent)
     : QIntValidator(bottom, top, parent)

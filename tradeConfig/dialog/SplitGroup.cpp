@@ -1,4 +1,4 @@
-#include "tradeConfig/SplitGroup.h"
+#include "tradeConfig/dialog/SplitGroup.h"
 
 #include "tradeConfig/ITrade.h"
 #include "ui_CTradeConfigWidget.h"

@@ -1,4 +1,4 @@
-#include "tradeConfig/InterfaceSettings.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include "tradeConfig/platform/HostPlatform.h"
 

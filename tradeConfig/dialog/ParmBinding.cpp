@@ -1,4 +1,4 @@
-#include "tradeConfig/ParmBinding.h"
+#include "tradeConfig/dialog/ParmBinding.h"
 
 #include "ui_CTradeConfigWidget.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tradeConfig/ITrade.h"
-#include "tradeConfig/RisePrice.h"
-#include "tradeConfig/SplitGroup.h"
+#include "tradeConfig/dialog/RisePrice.h"
+#include "tradeConfig/dialog/SplitGroup.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tradeConfig/SplitRules.h"
+#include "tradeConfig/dialog/SplitRules.h"
 
 #include <cstdint>
 

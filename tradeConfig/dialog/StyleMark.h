@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tradeConfig/SheetFont.h"
+#include "tradeConfig/dialog/SheetFont.h"
 
 #include <QString>
 #include <QWidget>

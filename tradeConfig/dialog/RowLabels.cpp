@@ -1,4 +1,4 @@
-#include "tradeConfig/RowLabels.h"
+#include "tradeConfig/dialog/RowLabels.h"
 
 #include <QLabel>
 

@@ -1,4 +1,4 @@
-#include "tradeConfig/ChoiceLists.h"
+#include "tradeConfig/dialog/ChoiceLists.h"
 
 #include "tradeConfig/CTradeConfigWidget.h"
 

@@ -1,7 +1,7 @@
-#include "tradeConfig/ShortcutTable.h"
+#include "tradeConfig/dialog/ShortcutTable.h"
 
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/StyleMark.h"
+#include "tradeConfig/dialog/StyleMark.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <QHeaderView>
