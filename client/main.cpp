@@ -1,6 +1,5 @@
 #include "ClientOptions.h"
 #include "DataDirectory.h"
-#include "Gallery.h"
 #include "Instance.h"
 #include "MainWindow.h"
 #include "Screenshots.h"
@@ -9,6 +8,7 @@
 #include "SkinSwitcher.h"
 #include "StartSettings.h"
 #include "TradeCore.h"
+#include "gallery/Gallery.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "client/DataDirectory.h"
-#include "client/Gallery.h"
-#include "client/GalleryParts.h"
+#include "gallery/Gallery.h"
+#include "gallery/GalleryParts.h"
 #include "client/SkinSwitcher.h"
 #include "libskin/SkinLibrary.h"
 #include "support/MessageCapture.h"

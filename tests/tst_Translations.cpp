@@ -1,4 +1,4 @@
-#include "client/Gallery.h"
+#include "gallery/Gallery.h"
 #include "support/FakeTrade.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -156,7 +156,8 @@ void tst_Translations::everyTextIsTranslated()
     lupdate.start(QStringLiteral(LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
                    QStringLiteral("-I"), QStringLiteral("."), QStringLiteral("tradeConfig"),
-                   QStringLiteral("client"), QStringLiteral("-ts"), extracted});
+                   QStringLiteral("client"), QStringLiteral("gallery"), QStringLiteral("-ts"),
+                   extracted});
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
     const QVector<Message> needed = messagesOf(extracted);

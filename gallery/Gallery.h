@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Screenshots.h"
+#include "client/Screenshots.h"
 
 #include <QMainWindow>
 #include <QVector>

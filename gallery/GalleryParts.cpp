@@ -1,4 +1,4 @@
-#include "GalleryParts.h"
+#include "gallery/GalleryParts.h"
 
 #include <QAbstractAnimation>
 #include <QMouseEvent>

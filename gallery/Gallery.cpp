@@ -1,6 +1,6 @@
-#include "Gallery.h"
+#include "gallery/Gallery.h"
 
-#include "GalleryParts.h"
+#include "gallery/GalleryParts.h"
 
 #include "tradeConfig/CaptionBar.h"
 #include "tradeConfig/TableLineEdit.h"
