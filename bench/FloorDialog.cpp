@@ -2,6 +2,7 @@
 
 #include "tradeConfig/dialog/RowLabels.h"
 #include "tradeConfig/platform/HostPlatform.h"
+
 #include "ui_FloorForm.h"
 
 #include <QCoreApplication>

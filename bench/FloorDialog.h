@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QWidget>
+
 #include <memory>
 
 class Ui_FloorForm;

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
+
 #include <clocale>
 
 namespace Stage {

@@ -1,10 +1,10 @@
 #include "bench/Subjects.h"
 
-#include "SkinLibrary.h"
 #include "bench/BenchRecord.h"
 #include "bench/FloorDialog.h"
 #include "bench/FloorKit.h"
 #include "bench/Stage.h"
+#include "libskin/SkinLibrary.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/NavWidget.h"
 #include "tradeConfig/SwitchEx.h"
@@ -16,6 +16,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSvgRenderer>
+
 #include <cstring>
 #include <memory>
 

@@ -7,6 +7,7 @@
 #include "bench/Subjects.h"
 
 #include <QApplication>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

@@ -6,10 +6,6 @@
 #include "bench/Stage.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 
-#include <KActionCollection>
-#include <KConfigDialog>
-#include <KCoreConfigSkeleton>
-#include <KShortcutsEditor>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -18,6 +14,11 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStandardPaths>
+
+#include <KActionCollection>
+#include <KConfigDialog>
+#include <KCoreConfigSkeleton>
+#include <KShortcutsEditor>
 #include <algorithm>
 #include <cstdio>
 #include <ctime>

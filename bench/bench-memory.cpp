@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QPixmapCache>
+
 #include <atomic>
 #include <cerrno>
 #include <cstdio>

@@ -4,6 +4,7 @@
 #include "bench/Subjects.h"
 
 #include <QApplication>
+
 #include <benchmark/benchmark.h>
 
 namespace {

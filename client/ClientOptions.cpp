@@ -1,6 +1,7 @@
-#include "ClientOptions.h"
+#include "client/ClientOptions.h"
 
 #include <QCommandLineParser>
+
 #include <cstdio>
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "DataDirectory.h"
+#include "client/DataDirectory.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "FileReplace.h"
+#include "client/FileReplace.h"
 
 #include <QCoreApplication>
 #include <QSaveFile>

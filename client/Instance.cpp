@@ -1,9 +1,10 @@
-#include "Instance.h"
+#include "client/Instance.h"
 
-#include "DataDirectory.h"
-#include "FileReplace.h"
+#include "client/DataDirectory.h"
+#include "client/FileReplace.h"
 
 #include <QFile>
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>

@@ -1,10 +1,10 @@
-#include "MainWindow.h"
+#include "client/MainWindow.h"
 
-#include "DataDirectory.h"
-#include "RecordModel.h"
-#include "SettingsModule.h"
-#include "SettingsWindow.h"
-#include "TradeCore.h"
+#include "client/DataDirectory.h"
+#include "client/RecordModel.h"
+#include "client/SettingsModule.h"
+#include "client/SettingsWindow.h"
+#include "client/TradeCore.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,10 @@
-#include "RecordFields.h"
+#include "client/RecordFields.h"
 
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QStringList>
 #include <QtGlobal>
+
 #include <cstring>
 #include <limits>
 #include <new>

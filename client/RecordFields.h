@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QVector>
+
 #include <cstddef>
 #include <memory>
 

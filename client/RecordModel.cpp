@@ -1,7 +1,8 @@
-#include "RecordModel.h"
+#include "client/RecordModel.h"
 
 #include <QColor>
 #include <QFont>
+
 #include <algorithm>
 
 using RecordFields::Field;

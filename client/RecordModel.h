@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RecordFields.h"
+#include "client/RecordFields.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>

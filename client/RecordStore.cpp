@@ -1,7 +1,7 @@
-#include "RecordStore.h"
+#include "client/RecordStore.h"
 
-#include "DataDirectory.h"
-#include "FileReplace.h"
+#include "client/DataDirectory.h"
+#include "client/FileReplace.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
+
 #include <cmath>
 
 using RecordFields::Field;

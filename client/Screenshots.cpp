@@ -1,4 +1,4 @@
-#include "Screenshots.h"
+#include "client/Screenshots.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,9 +1,10 @@
-#include "SettingsModule.h"
+#include "client/SettingsModule.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
 #include <QWidget>
+
 #include <exception>
 
 namespace {

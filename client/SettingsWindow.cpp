@@ -1,4 +1,4 @@
-#include "SettingsWindow.h"
+#include "client/SettingsWindow.h"
 
 #include <QCloseEvent>
 #include <QScreen>

@@ -1,4 +1,4 @@
-#include "SkinStyle.h"
+#include "client/SkinStyle.h"
 
 #include <QPainter>
 #include <QStyleOption>

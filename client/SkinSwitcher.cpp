@@ -1,7 +1,6 @@
-#include "SkinSwitcher.h"
+#include "client/SkinSwitcher.h"
 
-#include "DataDirectory.h"
-
+#include "client/DataDirectory.h"
 #include "libskin/SkinLibrary.h"
 #include "tradeConfig/dialog/SheetFont.h"
 

@@ -1,12 +1,13 @@
-#include "StartSettings.h"
+#include "client/StartSettings.h"
 
-#include "DataDirectory.h"
+#include "client/DataDirectory.h"
 
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
 #include <QTranslator>
+
 #include <algorithm>
 
 namespace {

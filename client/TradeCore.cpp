@@ -1,4 +1,4 @@
-#include "TradeCore.h"
+#include "client/TradeCore.h"
 
 TradeCore::TradeCore(const DataDirectory& directory, Storage storage, QObject* parent)
     : QObject(parent)

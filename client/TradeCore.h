@@ -1,7 +1,6 @@
 #pragma once
 
-#include "RecordStore.h"
-
+#include "client/RecordStore.h"
 #include "tradeConfig/ITrade.h"
 
 #include <QObject>

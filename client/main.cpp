@@ -1,19 +1,20 @@
-#include "ClientOptions.h"
-#include "DataDirectory.h"
-#include "Instance.h"
-#include "MainWindow.h"
-#include "Screenshots.h"
-#include "SettingsModule.h"
-#include "SkinStyle.h"
-#include "SkinSwitcher.h"
-#include "StartSettings.h"
-#include "TradeCore.h"
+#include "client/ClientOptions.h"
+#include "client/DataDirectory.h"
+#include "client/Instance.h"
+#include "client/MainWindow.h"
+#include "client/Screenshots.h"
+#include "client/SettingsModule.h"
+#include "client/SkinStyle.h"
+#include "client/SkinSwitcher.h"
+#include "client/StartSettings.h"
+#include "client/TradeCore.h"
 #include "gallery/Gallery.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
 #include <QTextCodec>
+
 #include <cstdio>
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "KitPlugin.h"
+#include "designer/KitPlugin.h"
 
 #include "tradeConfig/CaptionBar.h"
 #include "tradeConfig/ImageButton.h"

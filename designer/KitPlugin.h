@@ -2,6 +2,7 @@
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
 #include <memory>
 #include <vector>
 

@@ -1,7 +1,6 @@
 #include "gallery/Gallery.h"
 
 #include "gallery/GalleryParts.h"
-
 #include "tradeConfig/CaptionBar.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"

@@ -7,6 +7,7 @@
 #include "tradeConfig/TipLabel.h"
 
 #include <QWidget>
+
 #include <functional>
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "ActiveSkin.h"
+#include "libskin/ActiveSkin.h"
 
 #include <QCoreApplication>
 

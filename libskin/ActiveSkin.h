@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Skin.h"
+#include "libskin/Skin.h"
 
 #include <QCache>
 #include <QFont>

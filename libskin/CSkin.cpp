@@ -1,11 +1,12 @@
 #include "tradeConfig/skin/CSkin.h"
 
-#include "ActiveSkin.h"
+#include "libskin/ActiveSkin.h"
 
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QtMath>
+
 #include <cmath>
 
 namespace CorvelSkin {

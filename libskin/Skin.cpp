@@ -1,4 +1,4 @@
-#include "Skin.h"
+#include "libskin/Skin.h"
 
 #include "tradeConfig/skin/SkinKeys.h"
 
@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
 #include <algorithm>
 #include <dlfcn.h>
 

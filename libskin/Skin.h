@@ -1,9 +1,10 @@
 #pragma once
 
-#include "SkinImage.h"
-#include "SkinTable.h"
+#include "libskin/SkinImage.h"
+#include "libskin/SkinTable.h"
 
 #include <QHash>
+
 #include <memory>
 
 namespace CorvelSkin {

@@ -1,4 +1,4 @@
-#include "SkinImage.h"
+#include "libskin/SkinImage.h"
 
 #include <QBuffer>
 #include <QFile>

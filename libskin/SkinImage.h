@@ -1,9 +1,10 @@
 #pragma once
 
-#include "SkinTable.h"
+#include "libskin/SkinTable.h"
 
 #include <QImage>
 #include <QSizeF>
+
 #include <memory>
 
 class QSvgRenderer;

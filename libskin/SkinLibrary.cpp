@@ -1,8 +1,8 @@
-#include "SkinLibrary.h"
+#include "libskin/SkinLibrary.h"
 
-#include "ActiveSkin.h"
-#include "PaletteRoles.h"
-#include "Skin.h"
+#include "libskin/ActiveSkin.h"
+#include "libskin/PaletteRoles.h"
+#include "libskin/Skin.h"
 
 #include <QApplication>
 #include <QDebug>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "SkinExport.h"
-#include "SkinTable.h"
+#include "libskin/SkinExport.h"
+#include "libskin/SkinTable.h"
 
 #include <QColor>
 #include <QObject>
@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVector>
+
 #include <memory>
 
 namespace CorvelSkin {

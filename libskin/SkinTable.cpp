@@ -1,6 +1,6 @@
-#include "SkinTable.h"
+#include "libskin/SkinTable.h"
 
-#include "PaletteRoles.h"
+#include "libskin/PaletteRoles.h"
 
 #include <QDir>
 #include <QFont>
@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtMath>
+
 #include <algorithm>
 
 namespace CorvelSkin {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SkinExport.h"
+#include "libskin/SkinExport.h"
 
 #include <QByteArray>
 #include <QColor>

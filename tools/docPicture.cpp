@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QVector>
+
 #include <algorithm>
 #include <cstdio>
 #include <limits>

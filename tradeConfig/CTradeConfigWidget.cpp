@@ -1,17 +1,17 @@
 #include "tradeConfig/CTradeConfigWidget.h"
 
-#include "tradeConfig/dialog/ChoiceLists.h"
 #include "tradeConfig/ITrade.h"
-#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/MessageBox.h"
+#include "tradeConfig/SwitchEx.h"
+#include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/TipLabel.h"
+#include "tradeConfig/dialog/ChoiceLists.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/dialog/ParmBinding.h"
 #include "tradeConfig/dialog/QuantityValidator.h"
 #include "tradeConfig/dialog/RowLabels.h"
 #include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/dialog/StyleMark.h"
-#include "tradeConfig/SwitchEx.h"
-#include "tradeConfig/TableLineEdit.h"
-#include "tradeConfig/TipLabel.h"
 
 #include <QCoreApplication>
 #include <QDebug>

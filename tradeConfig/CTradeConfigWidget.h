@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tradeConfig/dialog/SplitRules.h"
+
 #include "ui_CTradeConfigWidget.h"
 
 #include <QMap>

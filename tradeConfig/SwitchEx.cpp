@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
+
 #include <algorithm>
 #include <cmath>
 #include <tuple>

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVector>
 #include <QWidget>
+
 #include <functional>
 #include <memory>
 #include <optional>

@@ -1,5 +1,4 @@
 #include "tradeConfig/SwitchEx.h"
-
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
 

@@ -1,14 +1,13 @@
-#include <tradeConfig/HostPlatform.h>
-#include <tradeConfig/ITrade.h>
-#include <tradeConfig/ModuleEntry.h>
-
-#include <libskin/SkinLibrary.h>
-
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
+
 #include <cstdio>
+#include <libskin/SkinLibrary.h>
 #include <memory>
+#include <tradeConfig/HostPlatform.h>
+#include <tradeConfig/ITrade.h>
+#include <tradeConfig/ModuleEntry.h>
 
 // The host's trading core. The fourteen entries before the two that the module calls are the
 // host's own operations.

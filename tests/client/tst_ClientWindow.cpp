@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+
 #include <memory>
 
 /// The client's window with the module as it ships.

@@ -1,7 +1,7 @@
 #include "client/DataDirectory.h"
+#include "client/SkinSwitcher.h"
 #include "gallery/Gallery.h"
 #include "gallery/GalleryParts.h"
-#include "client/SkinSwitcher.h"
 #include "libskin/SkinLibrary.h"
 #include "support/MessageCapture.h"
 #include "support/TestMain.h"
@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTimerEvent>
+
 #include <memory>
 
 using CorvelSkin::SkinLibrary;

@@ -5,6 +5,7 @@
 
 #include <QProcess>
 #include <QRandomGenerator>
+
 #include <chrono>
 
 /// A client that is killed while it stores the record leaves the old record or the new one.

@@ -10,6 +10,7 @@
 #include <QJsonObject>
 #include <QSet>
 #include <QSignalSpy>
+
 #include <csignal>
 #include <cstdlib>
 #include <memory>

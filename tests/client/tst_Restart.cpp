@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 
 #include <QProcess>
+
 #include <csignal>
 #include <memory>
 #include <sys/stat.h>

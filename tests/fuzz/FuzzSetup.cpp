@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
+
 #include <clocale>
 #include <cstdio>
 

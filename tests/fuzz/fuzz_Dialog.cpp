@@ -4,12 +4,11 @@
 
 #include "FuzzInput.h"
 #include "FuzzSetup.h"
-
 #include "client/RecordFields.h"
 #include "support/FakeTrade.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/SwitchEx.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -23,6 +22,7 @@
 #include <QTableWidget>
 #include <QTimer>
 #include <QWheelEvent>
+
 #include <memory>
 
 using RecordFields::Field;

@@ -3,7 +3,6 @@
 
 #include "FuzzInput.h"
 #include "FuzzSetup.h"
-
 #include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QDir>

@@ -3,7 +3,6 @@
 
 #include "FuzzInput.h"
 #include "FuzzSetup.h"
-
 #include "client/DataDirectory.h"
 #include "client/RecordFields.h"
 #include "client/RecordStore.h"

@@ -4,7 +4,6 @@
 
 #include "FuzzInput.h"
 #include "FuzzSetup.h"
-
 #include "libskin/SkinLibrary.h"
 #include "libskin/SkinTable.h"
 #include "tradeConfig/skin/CSkin.h"

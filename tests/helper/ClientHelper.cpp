@@ -5,12 +5,12 @@
 //                                 says each number when its record is stored
 
 #include "NumberedRecord.h"
-
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
 #include "client/RecordStore.h"
 
 #include <QCoreApplication>
+
 #include <cstdio>
 #include <unistd.h>
 

@@ -7,6 +7,7 @@
 #include <QLibrary>
 #include <QPixmap>
 #include <QWidget>
+
 #include <cstdio>
 #include <dlfcn.h>
 #include <memory>

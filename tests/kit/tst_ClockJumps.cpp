@@ -4,6 +4,7 @@
 #include "tradeConfig/TipLabel.h"
 
 #include <QGraphicsOpacityEffect>
+
 #include <ctime>
 #include <sys/syscall.h>
 #include <sys/time.h>

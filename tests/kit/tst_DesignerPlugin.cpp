@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
 #include <memory>
 
 class tst_DesignerPlugin : public QObject {

@@ -1,15 +1,15 @@
+#include "support/RecordingSkin.h"
+#include "support/TestMain.h"
 #include "tradeConfig/NavWidget.h"
 #include "tradeConfig/NavWidgetAccessible.h"
 #include "tradeConfig/PartsAccessible.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/SwitchExAccessible.h"
 
-#include "support/RecordingSkin.h"
-#include "support/TestMain.h"
-
 #include <QAccessible>
 #include <QMenu>
 #include <QSignalSpy>
+
 #include <memory>
 
 namespace {

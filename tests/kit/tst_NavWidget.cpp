@@ -1,11 +1,11 @@
-#include "tradeConfig/NavWidget.h"
-
 #include "support/RecordingSkin.h"
 #include "support/TestMain.h"
 #include "support/UpdateCounter.h"
+#include "tradeConfig/NavWidget.h"
 
 #include <QPixmap>
 #include <QSignalSpy>
+
 #include <memory>
 
 namespace {

@@ -1,12 +1,12 @@
-#include "tradeConfig/SwitchEx.h"
-
 #include "support/RecordingSkin.h"
 #include "support/ShownBar.h"
 #include "support/TestMain.h"
 #include "support/UpdateCounter.h"
+#include "tradeConfig/SwitchEx.h"
 
 #include <QMenu>
 #include <QScreen>
+
 #include <ctime>
 #include <memory>
 

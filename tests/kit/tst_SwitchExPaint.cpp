@@ -1,8 +1,7 @@
-#include "tradeConfig/SwitchEx.h"
-
 #include "support/RecordingSkin.h"
 #include "support/ShownBar.h"
 #include "support/TestMain.h"
+#include "tradeConfig/SwitchEx.h"
 
 #include <QMenu>
 #include <QPixmap>

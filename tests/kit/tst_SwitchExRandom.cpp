@@ -1,9 +1,9 @@
-#include "tradeConfig/SwitchEx.h"
-
 #include "support/RecordingSkin.h"
 #include "support/TestMain.h"
+#include "tradeConfig/SwitchEx.h"
 
 #include <QRandomGenerator>
+
 #include <cmath>
 #include <vector>
 

@@ -2,6 +2,7 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOKitLib.h>
+#import <objc/runtime.h>
 
 #include <algorithm>
 #include <cstdarg>
@@ -9,8 +10,6 @@
 #include <cstdlib>
 #include <deque>
 #include <map>
-
-#import <objc/runtime.h>
 
 namespace {
 

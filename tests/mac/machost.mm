@@ -2,7 +2,6 @@
 // of a process. CMakeLists.txt makes one test of every line that begins with CASE.
 
 #include "Doubles.h"
-
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <cstdio>
@@ -11,11 +10,10 @@
 #include <fstream>
 #include <functional>
 #include <map>
-#include <string>
-#include <vector>
-
 #include <stdlib.h>
+#include <string>
 #include <unistd.h>
+#include <vector>
 
 #if __has_feature(address_sanitizer)
 #include <sanitizer/lsan_interface.h>

@@ -1,9 +1,8 @@
-#include "tradeConfig/CTradeConfigWidget.h"
-
 #include "support/FakeTrade.h"
 #include "support/MarkingTranslator.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
+#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/ModuleEntry.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
@@ -11,6 +10,7 @@
 
 #include <QDir>
 #include <QSettings>
+
 #include <memory>
 #include <optional>
 #include <stdexcept>

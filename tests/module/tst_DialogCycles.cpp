@@ -4,6 +4,7 @@
 #include "tradeConfig/ModuleEntry.h"
 
 #include <QPixmapCache>
+
 #include <malloc.h>
 #include <memory>
 #if defined(__SANITIZE_ADDRESS__)

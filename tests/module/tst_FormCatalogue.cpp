@@ -1,5 +1,6 @@
 #include "support/MarkingTranslator.h"
 #include "support/TestMain.h"
+
 #include "ui_CTradeConfigWidget.h"
 
 #include <QSet>

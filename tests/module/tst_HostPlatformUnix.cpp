@@ -11,7 +11,6 @@
 
 #include <climits>
 #include <cstring>
-
 #include <unistd.h>
 
 /// The helpers as a Linux user meets them.

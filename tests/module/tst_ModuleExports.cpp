@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+
 #include <memory>
 
 namespace {

@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 #include "tradeConfig/dialog/ChoiceLists.h"
 #include "tradeConfig/dialog/ParmBinding.h"
+
 #include "ui_CTradeConfigWidget.h"
 
 using ParmBinding::Section;

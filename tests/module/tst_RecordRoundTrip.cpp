@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QSet>
 #include <QTextCodec>
+
 #include <climits>
 #include <cstring>
 

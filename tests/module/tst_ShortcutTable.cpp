@@ -4,8 +4,8 @@
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/dialog/ShortcutTable.h"
 
 #include <QHeaderView>
 #include <QStyleFactory>

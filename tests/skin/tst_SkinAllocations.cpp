@@ -4,6 +4,7 @@
 #include "tradeConfig/skin/SkinKeys.h"
 
 #include <QPainter>
+
 #include <functional>
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)

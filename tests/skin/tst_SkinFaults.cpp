@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QPainter>
 #include <QRandomGenerator>
+
 #include <functional>
 
 using CorvelSkin::CSkin;

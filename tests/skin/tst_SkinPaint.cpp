@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QSvgRenderer>
 #include <QWidget>
+
 #include <functional>
 
 using CorvelSkin::CSkin;

@@ -3,6 +3,7 @@
 #include "tradeConfig/ITrade.h"
 
 #include <QByteArray>
+
 #include <memory>
 
 /**

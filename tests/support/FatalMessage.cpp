@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QtGlobal>
+
 #include <sys/wait.h>
 #include <unistd.h>
 

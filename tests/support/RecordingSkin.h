@@ -3,6 +3,7 @@
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+
 #include <functional>
 
 /**

@@ -1,6 +1,7 @@
 #include "TestMain.h"
 
 #include <QMetaObject>
+
 #include <clocale>
 
 namespace TestSupport {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QStringList>
+
 #include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QObject>
 #include <QWidget>
+
 #include <utility>
 
 /// Counts how often a visible widget is repainted.

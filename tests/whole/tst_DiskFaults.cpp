@@ -10,6 +10,7 @@
 #include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QSignalSpy>
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>

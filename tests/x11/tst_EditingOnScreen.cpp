@@ -1,12 +1,11 @@
+#include "client/DataDirectory.h"
+#include "client/TradeCore.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
 #include "tradeConfig/platform/HostPlatform.h"
-
-#include "client/DataDirectory.h"
-#include "client/TradeCore.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

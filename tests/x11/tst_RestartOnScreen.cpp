@@ -1,14 +1,14 @@
-#include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
-
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
 #include "client/TradeCore.h"
+#include "support/TestMain.h"
+#include "tradeConfig/CTradeConfigWidget.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QSettings>
+
 #include <memory>
 
 namespace {

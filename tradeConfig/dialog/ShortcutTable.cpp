@@ -1,8 +1,8 @@
 #include "tradeConfig/dialog/ShortcutTable.h"
 
 #include "tradeConfig/CTradeConfigWidget.h"
-#include "tradeConfig/dialog/StyleMark.h"
 #include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/dialog/StyleMark.h"
 
 #include <QHeaderView>
 #include <QTableWidget>

@@ -1,6 +1,7 @@
 #include "tradeConfig/dialog/SplitGroup.h"
 
 #include "tradeConfig/ITrade.h"
+
 #include "ui_CTradeConfigWidget.h"
 
 namespace {

@@ -1,18 +1,16 @@
-#include "tradeConfig/platform/HostPlatform.h"
-
 #include "tradeConfig/platform/DirectorySearch.h"
+#include "tradeConfig/platform/HostPlatform.h"
 #include "tradeConfig/platform/VersionNumber.h"
-
-#include <string>
-
-#include <string.h>
-#include <unistd.h>
 
 #import <AppKit/AppKit.h>
 #import <CoreFoundation/CoreFoundation.h>
 #import <Foundation/Foundation.h>
 #import <IOKit/IOKitLib.h>
 #import <Security/Security.h>
+
+#include <string.h>
+#include <string>
+#include <unistd.h>
 
 // Compiled without ARC: what is copied or created here is released here.
 

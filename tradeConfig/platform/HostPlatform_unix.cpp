@@ -1,7 +1,7 @@
-#include "tradeConfig/platform/HostPlatform.h"
+#include "tradeConfig/platform/HostPlatform_unix.h"
 
 #include "tradeConfig/platform/DirectorySearch.h"
-#include "tradeConfig/platform/HostPlatform_unix.h"
+#include "tradeConfig/platform/HostPlatform.h"
 #include "tradeConfig/platform/VersionNumber.h"
 
 #include <QCoreApplication>
@@ -14,7 +14,6 @@
 #include <limits>
 #include <string>
 #include <system_error>
-
 #include <unistd.h>
 
 namespace fs = std::filesystem;
