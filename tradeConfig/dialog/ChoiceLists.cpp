@@ -1,6 +1,8 @@
 #include "tradeConfig/dialog/ChoiceLists.h"
 
-#include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/dialog/FormText.h"
+
+#include "ui_CTradeConfigWidget.h"
 
 #include <QStringList>
 
@@ -122,7 +124,7 @@ void ChoiceLists::fill(const Ui_CTradeConfigWidget& ui)
         for (const Choice& choice : list.choices) {
             if (!choice.text)
                 break;
-            items << (choice.translated ? CTradeConfigWidget::tr(choice.text)
+            items << (choice.translated ? FormText::tr(choice.text)
                                         : QString::fromUtf8(choice.text));
         }
         (ui.*list.combo)->addItems(items);

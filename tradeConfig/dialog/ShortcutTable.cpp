@@ -1,8 +1,10 @@
 #include "tradeConfig/dialog/ShortcutTable.h"
 
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/dialog/FormText.h"
 #include "tradeConfig/dialog/StyleMark.h"
+
+#include "ui_CTradeConfigWidget.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
@@ -96,14 +98,13 @@ void setUp(QTableWidget& table, int rows)
 
     table.setColumnCount(ColumnCount);
     for (int column = 0; column < ColumnCount; ++column)
-        table.setHorizontalHeaderItem(column,
-                                      new HeaderItem(CTradeConfigWidget::tr(headers[column])));
+        table.setHorizontalHeaderItem(column, new HeaderItem(FormText::tr(headers[column])));
     table.setRowCount(rows);
 }
 
 void setReadOnlyItem(QTableWidget& table, int row, int column, const char* text)
 {
-    auto* const item = new QTableWidgetItem(CTradeConfigWidget::tr(text));
+    auto* const item = new QTableWidgetItem(FormText::tr(text));
     item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     table.setItem(row, column, item);
 }
@@ -182,7 +183,7 @@ void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* capt
     const QTableWidget& widget = *(ui.*table);
     if (check.verdict == Verdict::Emptied) {
         if (captor)
-            captor->setText(CTradeConfigWidget::tr("空"));
+            captor->setText(FormText::tr("空"));
         return;
     }
 
@@ -191,14 +192,14 @@ void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* capt
         StyleMark::set(*captor, accepted);
     QString status;
     if (accepted)
-        status = CTradeConfigWidget::tr(normalStatus);
+        status = FormText::tr(normalStatus);
     else if (check.verdict == Verdict::GlobalHotkey)
         //: %1 is a key such as F5
-        status = CTradeConfigWidget::tr("%1为全局快捷键！").arg(text);
+        status = FormText::tr("%1为全局快捷键！").arg(text);
     else
         //: %1 is the trading function that already has the key
-        status = CTradeConfigWidget::tr("与%1重复")
-                     .arg(textOf(widget.item(check.duplicateRow, FunctionColumn)));
+        status
+            = FormText::tr("与%1重复").arg(textOf(widget.item(check.duplicateRow, FunctionColumn)));
     if (QTableWidgetItem* const item = widget.item(row, StatusColumn)) {
         item->setForeground(QBrush(accepted ? Qt::green : Qt::red));
         item->setText(status);
