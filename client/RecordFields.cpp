@@ -1,5 +1,7 @@
 #include "client/RecordFields.h"
 
+#include "tradeConfig/PackedText.h"
+
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QStringList>
@@ -8,9 +10,6 @@
 #include <cstring>
 #include <limits>
 #include <new>
-
-// The record packs its strings to four bytes; the code that touches them says so.
-#define MISALIGNED_BY_CONTRACT __attribute__((no_sanitize("alignment")))
 
 namespace RecordFields {
 namespace {
@@ -327,20 +326,20 @@ unsigned char* stringPlace(TradeParm& record, const Field& field, int index)
     return place(record, field) + static_cast<std::size_t>(index) * sizeof(std::string);
 }
 
-MISALIGNED_BY_CONTRACT void createString(unsigned char* at) { new (at) std::string; }
+TOUCHES_PACKED_TEXT void createString(unsigned char* at) { new (at) std::string; }
 
-MISALIGNED_BY_CONTRACT void destroyString(unsigned char* at)
+TOUCHES_PACKED_TEXT void destroyString(unsigned char* at)
 {
     using String = std::string;
     reinterpret_cast<String*>(at)->~String();
 }
 
-MISALIGNED_BY_CONTRACT void writeString(unsigned char* at, const char* data, std::size_t size)
+TOUCHES_PACKED_TEXT void writeString(unsigned char* at, const char* data, std::size_t size)
 {
     reinterpret_cast<std::string*>(at)->assign(data, size);
 }
 
-MISALIGNED_BY_CONTRACT QByteArray readString(const unsigned char* at)
+TOUCHES_PACKED_TEXT QByteArray readString(const unsigned char* at)
 {
     const auto* const string = reinterpret_cast<const std::string*>(at);
     return QByteArray(string->data(), static_cast<int>(string->size()));

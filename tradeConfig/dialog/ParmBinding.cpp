@@ -1,12 +1,10 @@
 #include "tradeConfig/dialog/ParmBinding.h"
 
+#include "tradeConfig/PackedText.h"
+
 #include "ui_CTradeConfigWidget.h"
 
 #include <variant>
-
-// Under the record's 4-byte packing its strings lie at addresses that are no multiple of 8. That
-// is the contract, so the functions that touch them are exempt from that one check.
-#define TOUCHES_PACKED_TEXT __attribute__((no_sanitize("alignment")))
 
 namespace {
 
