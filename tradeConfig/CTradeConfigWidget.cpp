@@ -9,8 +9,10 @@
 #include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/dialog/ParmBinding.h"
 #include "tradeConfig/dialog/QuantityValidator.h"
+#include "tradeConfig/dialog/RisePrice.h"
 #include "tradeConfig/dialog/RowLabels.h"
 #include "tradeConfig/dialog/ShortcutTable.h"
+#include "tradeConfig/dialog/SplitGroup.h"
 #include "tradeConfig/dialog/StyleMark.h"
 
 #include <QCoreApplication>
@@ -34,7 +36,6 @@ constexpr int barWidth = 657;
 
 constexpr int largestQuantity = 10000000;
 constexpr int longestLockMinutes = 1000;
-constexpr int largestRisePercent = 100;
 
 // Where a tip stands beside its field. The field's position is relative to its own page while
 // the tip's is relative to the dialog; these offsets stand for the difference.
@@ -56,6 +57,8 @@ constexpr Tip tips[] = {
 };
 
 const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
+
+const RisePrice* const risePrices[] = {&RisePrice::buy, &RisePrice::sell};
 
 } // namespace
 
@@ -223,37 +226,14 @@ void CTradeConfigWidget::ReadAllParm()
     ParmBinding::load(Section::Trading, parm, ui);
 
     for (const SplitGroup* const group : splitGroups)
-        readSplitGroup(parm, *group);
-
-    ParmBinding::loadRiseChoices(parm, ui, RisePrice::buy);
-    ParmBinding::loadRiseChoices(parm, ui, RisePrice::sell);
-    ParmBinding::loadRiseIndex(parm, ui, RisePrice::buy);
-    ParmBinding::loadRiseIndex(parm, ui, RisePrice::sell);
+        group->load(parm, ui);
+    for (const RisePrice* const price : risePrices)
+        price->load(parm, ui);
 
     stockShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::stockShortcuts);
     creditShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::creditShortcuts);
     readShortcuts(ShortcutTable::stock, stockShortcutTexts);
     readShortcuts(ShortcutTable::credit, creditShortcutTexts);
-}
-
-// The signals are connected already, but a control that is set to the value it shows emits
-// none, so the state that depends on it is set by hand. A STAR strategy with a preset overwrites
-// the base quantity loaded just before; the limits come after it and stay as stored.
-void CTradeConfigWidget::readSplitGroup(const TradeParm& parm, const SplitGroup& group)
-{
-    const bool enabled = parm.*group.enabledValue == 1;
-    (ui.*group.enabled)->setChecked(enabled);
-    group.setInputsEnabled(ui, enabled);
-    (ui.*group.baseQuantity)->setText(QString::number(parm.*group.baseQuantityValue));
-
-    const int strategy = parm.*group.strategyValue;
-    (ui.*group.strategy)->setCurrentIndex(strategy);
-    if (strategy == 0)
-        group.select(ui, strategy);
-
-    (ui.*group.upperLimit)->setText(QString::number(parm.*group.upperLimitValue));
-    (ui.*group.lowerLimit)->setText(QString::number(parm.*group.lowerLimitValue));
-    (ui.*group.decrement)->setText(QString::number(parm.*group.decrementValue));
 }
 
 void CTradeConfigWidget::readShortcuts(const ShortcutTable& table, const QStringList& texts)
@@ -277,11 +257,9 @@ void CTradeConfigWidget::WriteAllParm()
     ParmBinding::store(parm, ui);
     ParmBinding::storeDefaultPage(parm, ui);
     for (const SplitGroup* const group : splitGroups)
-        ParmBinding::storeSplitGroup(parm, ui, *group);
-    ParmBinding::storeRiseIndex(parm, ui, RisePrice::buy);
-    ParmBinding::storeRiseIndex(parm, ui, RisePrice::sell);
-    ParmBinding::storeRiseChoices(parm, ui, RisePrice::buy);
-    ParmBinding::storeRiseChoices(parm, ui, RisePrice::sell);
+        group->store(parm, ui);
+    for (const RisePrice* const price : risePrices)
+        price->store(parm, ui);
     ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts,
                                 ShortcutTable::stock.cellTexts(ui, stockEditors));
     ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts,
@@ -363,11 +341,11 @@ bool CTradeConfigWidget::eventFilter(QObject* watched, QEvent* event)
 void CTradeConfigWidget::focusLeft(QObject* watched)
 {
     if (watched == ui.comboBox_trade_kc_buyRise) {
-        endRiseEdit(RisePrice::buy, starBuyRiseText);
+        RisePrice::buy.endEdit(ui, starBuyRiseText);
         return;
     }
     if (watched == ui.comboBox_trade_kc_sellRise) {
-        endRiseEdit(RisePrice::sell, starSellRiseText);
+        RisePrice::sell.endEdit(ui, starSellRiseText);
         return;
     }
     for (const SplitGroup* const group : splitGroups) {
@@ -442,43 +420,17 @@ void CTradeConfigWidget::ShowInputErrorMsg(QObject* watched, QString text, int w
 
 void CTradeConfigWidget::ChangeComboboxKcBuyRise()
 {
-    beginRiseEdit(RisePrice::buy, starBuyRiseText);
+    starBuyRiseText = RisePrice::buy.beginEdit(ui, this);
 }
 
 void CTradeConfigWidget::ChangeComboboxKcSellRise()
 {
-    beginRiseEdit(RisePrice::sell, starSellRiseText);
+    starSellRiseText = RisePrice::sell.beginEdit(ui, this);
 }
 
 void CTradeConfigWidget::ChangeComboboxKcBuyRiseText(QString text) { starBuyRiseText = text; }
 
 void CTradeConfigWidget::ChangeComboboxKcSellRiseText(QString text) { starSellRiseText = text; }
-
-void CTradeConfigWidget::beginRiseEdit(const RisePrice& price, QString& text)
-{
-    QComboBox& combo = *(ui.*price.combo);
-    combo.setEditable(true);
-    // A percentage that nobody typed must not be stored.
-    combo.setCompleter(nullptr);
-    // Nor must Return move to another entry that already holds the percentage typed.
-    disconnect(combo.lineEdit(), &QLineEdit::editingFinished, &combo, nullptr);
-    // Before the button is disabled: a disabled button hands its focus to the next widget, and
-    // a field that is only passed by would be checked when it loses it again.
-    combo.setFocus();
-    (ui.*price.editButton)->setEnabled(false);
-    text = combo.currentText();
-    combo.setValidator(new QuantityValidator(0, largestRisePercent, this));
-}
-
-void CTradeConfigWidget::endRiseEdit(const RisePrice& price, const QString& text)
-{
-    QComboBox& combo = *(ui.*price.combo);
-    if (!combo.isEditable())
-        return;
-    combo.setEditable(false);
-    (ui.*price.editButton)->setEnabled(true);
-    combo.setItemText(combo.currentIndex(), text);
-}
 
 // Hotkey tables
 

@@ -13,10 +13,8 @@
 
 class CSwitchEx;
 class CTipLabel;
-struct RisePrice;
 struct ShortcutTable;
 struct SplitGroup;
-struct TradeParm;
 
 namespace KivoTrade {
 class ITrade;
@@ -138,13 +136,10 @@ private:
 
     void initSwitchBar();
     void initValidators();
-    void readSplitGroup(const TradeParm& parm, const SplitGroup& group);
     void readShortcuts(const ShortcutTable& table, const QStringList& texts);
     bool everyInputIsValid();
     void focusLeft(QObject* watched);
     void checkSplitField(const SplitGroup& group, SplitRules::Field field);
-    void beginRiseEdit(const RisePrice& price, QString& text);
-    void endRiseEdit(const RisePrice& price, const QString& text);
     void keyCaptured(const ShortcutTable& table, QStringList& texts, int row, const QString& text);
 
     // As the tables were built, by row.

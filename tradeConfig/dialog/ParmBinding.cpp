@@ -94,12 +94,6 @@ TOUCHES_PACKED_TEXT void setKeyText(TradeParm& parm, ParmBinding::Shortcuts shor
 
 } // namespace
 
-const RisePrice RisePrice::buy = {&Form::comboBox_trade_kc_buyRise, &Form::pushButton_kc_buyRise,
-                                  &TradeParm::starBuyRiseIndex, &TradeParm::starBuyRiseChoices};
-
-const RisePrice RisePrice::sell = {&Form::comboBox_trade_kc_sellRise, &Form::pushButton_kc_sellRise,
-                                   &TradeParm::starSellRiseIndex, &TradeParm::starSellRiseChoices};
-
 namespace ParmBinding {
 
 void load(Section section, const TradeParm& parm, const Form& ui)
@@ -139,41 +133,6 @@ void storeDefaultPage(TradeParm& parm, const Form& ui)
             code = page.code;
     }
     setPageCode(parm, code);
-}
-
-void storeSplitGroup(TradeParm& parm, const Form& ui, const SplitGroup& group)
-{
-    parm.*group.enabledValue = valueOf(*(ui.*group.enabled));
-    parm.*group.baseQuantityValue = valueOf(*(ui.*group.baseQuantity));
-    parm.*group.strategyValue = valueOf(*(ui.*group.strategy));
-    parm.*group.upperLimitValue = valueOf(*(ui.*group.upperLimit));
-    parm.*group.lowerLimitValue = valueOf(*(ui.*group.lowerLimit));
-    parm.*group.decrementValue = valueOf(*(ui.*group.decrement));
-}
-
-void loadRiseChoices(const TradeParm& parm, const Form& ui, const RisePrice& price)
-{
-    QStringList items;
-    items.reserve(RisePrice::choiceCount);
-    for (const std::int32_t percent : parm.*price.choices)
-        items << QString::number(percent);
-    (ui.*price.combo)->addItems(items);
-}
-
-void loadRiseIndex(const TradeParm& parm, const Form& ui, const RisePrice& price)
-{
-    show(*(ui.*price.combo), parm.*price.index);
-}
-
-void storeRiseIndex(TradeParm& parm, const Form& ui, const RisePrice& price)
-{
-    parm.*price.index = valueOf(*(ui.*price.combo));
-}
-
-void storeRiseChoices(TradeParm& parm, const Form& ui, const RisePrice& price)
-{
-    for (int item = 0; item < RisePrice::choiceCount; ++item)
-        (parm.*price.choices)[item] = (ui.*price.combo)->itemText(item).toInt();
 }
 
 QStringList loadShortcuts(const TradeParm& parm, Shortcuts shortcuts)

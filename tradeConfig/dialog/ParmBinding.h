@@ -1,8 +1,6 @@
 #pragma once
 
 #include "tradeConfig/ITrade.h"
-#include "tradeConfig/dialog/RisePrice.h"
-#include "tradeConfig/dialog/SplitGroup.h"
 
 #include <QStringList>
 
@@ -11,10 +9,10 @@ class Ui_CTradeConfigWidget;
 /**
  * Which record field belongs to which control, in both directions.
  *
- * Plain fields stand in one table that loading and saving both walk; page codes, splitting
- * groups, protection prices and hotkeys have functions of their own beside it. A choice is the
- * combo's current index, a check box 1 or 0 (only 1 reads as checked), a line edit its decimal
- * value (a text that is no number stores 0).
+ * Plain fields stand in one table that loading and saving both walk; page codes and hotkeys have
+ * functions of their own beside it, splitting groups and protection prices units of their own. A
+ * choice is the combo's current index, a check box 1 or 0 (only 1 reads as checked), a line edit
+ * its decimal value (a text that is no number stores 0).
  */
 namespace ParmBinding {
 
@@ -31,15 +29,6 @@ void store(TradeParm& parm, const Ui_CTradeConfigWidget& ui);
 
 void loadDefaultPage(const TradeParm& parm, const Ui_CTradeConfigWidget& ui);
 void storeDefaultPage(TradeParm& parm, const Ui_CTradeConfigWidget& ui);
-
-void storeSplitGroup(TradeParm& parm, const Ui_CTradeConfigWidget& ui, const SplitGroup& group);
-
-/// Appends the three percentages as items.
-void loadRiseChoices(const TradeParm& parm, const Ui_CTradeConfigWidget& ui,
-                     const RisePrice& price);
-void loadRiseIndex(const TradeParm& parm, const Ui_CTradeConfigWidget& ui, const RisePrice& price);
-void storeRiseIndex(TradeParm& parm, const Ui_CTradeConfigWidget& ui, const RisePrice& price);
-void storeRiseChoices(TradeParm& parm, const Ui_CTradeConfigWidget& ui, const RisePrice& price);
 
 /// The thirteen key texts in table-row order.
 QStringList loadShortcuts(const TradeParm& parm, Shortcuts shortcuts);

@@ -20,29 +20,26 @@ struct SplitGroup {
     using Form = Ui_CTradeConfigWidget;
     using Value = std::int32_t TradeParm::*;
 
+    struct Quantity {
+        QLineEdit* Form::*edit;
+        Value value;
+    };
+
     /// What choosing a strategy shows and, where not null, which texts it writes.
     struct Strategy {
         bool showsLowerLimit;
         bool showsDecrement;
-        const char* baseQuantity;
-        const char* upperLimit;
+        const char* baseQuantity = nullptr;
+        const char* upperLimit = nullptr;
     };
 
     QCheckBox* Form::*enabled;
-    QLineEdit* Form::*baseQuantity;
+    Value enabledValue;
     QComboBox* Form::*strategy;
-    QLineEdit* Form::*upperLimit;
-    QLineEdit* Form::*lowerLimit;
-    QLineEdit* Form::*decrement;
+    Value strategyValue;
+    Quantity quantityFields[SplitRules::allFields.size()]; ///< by SplitRules::Field
     QLabel* Form::*lowerLimitLabel;
     QLabel* Form::*decrementLabel;
-
-    Value enabledValue;
-    Value baseQuantityValue;
-    Value strategyValue;
-    Value upperLimitValue;
-    Value lowerLimitValue;
-    Value decrementValue;
 
     const Strategy* strategies; ///< by strategy index
     int strategyCount;
@@ -52,6 +49,13 @@ struct SplitGroup {
 
     /// The current texts as numbers; an empty text counts as 0.
     SplitRules::Quantities quantities(const Form& ui) const;
+
+    /// Fills the controls and brings what depends on them into step, also where a control that
+    /// already shows its value emits no signal. A strategy with preset texts replaces the base
+    /// quantity of the record; the limits stay as recorded.
+    void load(const TradeParm& parm, const Form& ui) const;
+
+    void store(TradeParm& parm, const Form& ui) const;
 
     /// Enables or disables the five inputs.
     void setInputsEnabled(const Form& ui, bool enable) const;
