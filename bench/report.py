@@ -14,10 +14,11 @@ RATIO_TARGETS = {
     "instructions": {
         "construct": 1.08,
         "open and close": 1.05,
+        "confirm": 1.50,
     },
     "time": {
         "page switch and repaint": 1.10,
-        "confirm": 1.30,
+        "confirm": 1.50,
         "switch bar repaint, 3": 1.25,
         "switch bar repaint, 1000 scrolled": 1.25,
         "switch bar repaint, 1000 in sight": 1.25,

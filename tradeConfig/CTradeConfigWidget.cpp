@@ -232,16 +232,8 @@ void CTradeConfigWidget::ReadAllParm()
 
     stockShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::stockShortcuts);
     creditShortcutTexts = ParmBinding::loadShortcuts(parm, &TradeParm::creditShortcuts);
-    readShortcuts(ShortcutTable::stock, stockShortcutTexts);
-    readShortcuts(ShortcutTable::credit, creditShortcutTexts);
-}
-
-void CTradeConfigWidget::readShortcuts(const ShortcutTable& table, const QStringList& texts)
-{
-    for (int row = 0; row < (ui.*table.table)->rowCount(); ++row) {
-        if (QLineEdit* const cell = table.editor(ui, row))
-            cell->setText(texts.value(row));
-    }
+    ShortcutTable::stock.setCellTexts(ui, stockShortcutTexts);
+    ShortcutTable::credit.setCellTexts(ui, creditShortcutTexts);
 }
 
 void CTradeConfigWidget::WriteAllParm()
@@ -261,9 +253,9 @@ void CTradeConfigWidget::WriteAllParm()
     for (const RisePrice* const price : risePrices)
         price->store(parm, ui);
     ParmBinding::storeShortcuts(parm, &TradeParm::stockShortcuts,
-                                ShortcutTable::stock.cellTexts(ui, stockEditors));
+                                ShortcutTable::stock.cellTexts(ui));
     ParmBinding::storeShortcuts(parm, &TradeParm::creditShortcuts,
-                                ShortcutTable::credit.cellTexts(ui, creditEditors));
+                                ShortcutTable::credit.cellTexts(ui));
 
     m_pTrade->SaveTradeParm();
     CloseDlg();
@@ -436,22 +428,18 @@ void CTradeConfigWidget::ChangeComboboxKcSellRiseText(QString text) { starSellRi
 
 void CTradeConfigWidget::InitStockTable()
 {
-    stockEditors.clear();
-    ShortcutTable::stock.build(ui, [this](CTableLineEdit* editor) {
-        stockEditors << editor;
+    const QVector<CTableLineEdit*> editors = ShortcutTable::stock.build(ui);
+    for (CTableLineEdit* const editor : editors)
         connect(editor, &CTableLineEdit::signal_editFinished, this,
                 &CTradeConfigWidget::CellEditFinished);
-    });
 }
 
 void CTradeConfigWidget::InitCreditTable()
 {
-    creditEditors.clear();
-    ShortcutTable::credit.build(ui, [this](CTableLineEdit* editor) {
-        creditEditors << editor;
+    const QVector<CTableLineEdit*> editors = ShortcutTable::credit.build(ui);
+    for (CTableLineEdit* const editor : editors)
         connect(editor, &CTableLineEdit::signal_editFinished, this,
                 &CTradeConfigWidget::CellEditFinished2);
-    });
 }
 
 void CTradeConfigWidget::InitWholeTable() { ShortcutTable::buildGlobal(ui); }

@@ -5,10 +5,8 @@
 #include "ui_CTradeConfigWidget.h"
 
 #include <QMap>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
-#include <QVector>
 #include <QWidget>
 
 class CSwitchEx;
@@ -136,13 +134,8 @@ private:
 
     void initSwitchBar();
     void initValidators();
-    void readShortcuts(const ShortcutTable& table, const QStringList& texts);
     bool everyInputIsValid();
     void focusLeft(QObject* watched);
     void checkSplitField(const SplitGroup& group, SplitRules::Field field);
     void keyCaptured(const ShortcutTable& table, QStringList& texts, int row, const QString& text);
-
-    // As the tables were built, by row.
-    QVector<QPointer<QLineEdit>> stockEditors;
-    QVector<QPointer<QLineEdit>> creditEditors;
 };

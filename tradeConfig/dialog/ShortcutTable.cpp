@@ -138,12 +138,15 @@ const ShortcutTable ShortcutTable::credit = {
     "edit m_shortCutList2 ",
 };
 
-void ShortcutTable::build(const Ui_CTradeConfigWidget& ui, const Capture& prepare) const
+QVector<CTableLineEdit*> ShortcutTable::build(const Ui_CTradeConfigWidget& ui) const
 {
     QTableWidget& widget = *(ui.*table);
     setUp(widget, rowCount);
+    QVector<CTableLineEdit*> editors;
+    editors.reserve(rowCount);
     for (int row = 0; row < rowCount; ++row)
-        prepare(addRow(widget, row, functions[row]));
+        editors << addRow(widget, row, functions[row]);
+    return editors;
 }
 
 void ShortcutTable::buildGlobal(const Ui_CTradeConfigWidget& ui)
@@ -221,19 +224,20 @@ QLineEdit* ShortcutTable::editor(const Ui_CTradeConfigWidget& ui, int row) const
     return qobject_cast<QLineEdit*>((ui.*table)->cellWidget(row, KeyColumn));
 }
 
-QStringList ShortcutTable::cellTexts(const Ui_CTradeConfigWidget& ui,
-                                     const QVector<QPointer<QLineEdit>>& built) const
+void ShortcutTable::setCellTexts(const Ui_CTradeConfigWidget& ui, const QStringList& texts) const
 {
-    // A cell is found by a search that costs more than its text. One that was given another
-    // editor has two until the event loop deletes the old one.
-    const bool asBuilt
-        = (ui.*table)->viewport()->children().size() == rowCount && built.size() == rowCount;
+    for (int row = 0; row < (ui.*table)->rowCount(); ++row) {
+        if (QLineEdit* const cell = editor(ui, row))
+            cell->setText(texts.value(row));
+    }
+}
+
+QStringList ShortcutTable::cellTexts(const Ui_CTradeConfigWidget& ui) const
+{
     QStringList texts;
     texts.reserve(rowCount);
     for (int row = 0; row < rowCount; ++row) {
-        const QLineEdit* cell = asBuilt ? built.at(row).data() : nullptr;
-        if (!cell)
-            cell = editor(ui, row);
+        const QLineEdit* const cell = editor(ui, row);
         texts << (cell ? cell->text() : QString());
     }
     return texts;

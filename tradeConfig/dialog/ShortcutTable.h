@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVector>
-
-#include <functional>
 
 class CTableLineEdit;
 class QLineEdit;
@@ -28,17 +25,14 @@ struct ShortcutTable {
         int duplicateRow = -1; ///< the first row that holds the same key; Duplicate only
     };
 
-    using Capture = std::function<void(CTableLineEdit* editor)>;
-
     QTableWidget* Ui_CTradeConfigWidget::*table;
     const char* validityKey; ///< the table's entry in the dialog's validity map
     bool refusesGlobalHotkeys; ///< a global hotkey is an error here
     bool ignoresUnchangedKey; ///< capturing the key already held does nothing
     const char* changeLog = nullptr; ///< heads a debug line with all keys after each verdict
 
-    /// Columns, rows, functions and one key-capture editor a row; @p prepare sees each editor
-    /// once it stands in the table.
-    void build(const Ui_CTradeConfigWidget& ui, const Capture& prepare) const;
+    /// Columns, rows, functions and one key-capture editor a row, which are returned by row.
+    QVector<CTableLineEdit*> build(const Ui_CTradeConfigWidget& ui) const;
 
     /// Judges @p text captured in @p row beside @p texts, the keys of all rows in row order. The
     /// row's own entry in @p texts does not matter.
@@ -55,10 +49,11 @@ struct ShortcutTable {
     /// The line edit in the key column; null if there is none.
     QLineEdit* editor(const Ui_CTradeConfigWidget& ui, int row) const;
 
-    /// The texts in the key column, by row; empty where there is no line edit. @p built are the
-    /// editors that the table was built with: another cell costs a search.
-    QStringList cellTexts(const Ui_CTradeConfigWidget& ui,
-                          const QVector<QPointer<QLineEdit>>& built) const;
+    /// Shows @p texts, by row, in the key column, as far as there are line edits.
+    void setCellTexts(const Ui_CTradeConfigWidget& ui, const QStringList& texts) const;
+
+    /// The texts in the key column, by row; empty where there is no line edit.
+    QStringList cellTexts(const Ui_CTradeConfigWidget& ui) const;
 
     /// The first entry equal to @p text, in ascending order and leaving out @p row; -1 if none.
     static int firstDuplicate(const QStringList& texts, int row, const QString& text);
