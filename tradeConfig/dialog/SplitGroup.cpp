@@ -24,7 +24,7 @@ constexpr SplitGroup::Strategy starStrategies[] = {
 
 constexpr SplitGroup::Strategy hideBoth = {false, false};
 
-// The fields behind the strategy in the form's order.
+// The fields that follow the strategy in the form, in order.
 constexpr Field limits[] = {Field::UpperLimit, Field::LowerLimit, Field::Decrement};
 
 } // namespace
