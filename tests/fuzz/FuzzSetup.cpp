@@ -1,9 +1,8 @@
-#include "FuzzSetup.h"
+#include "fuzz/FuzzSetup.h"
 
-#include "FuzzInput.h"
+#include "fuzz/FuzzInput.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -42,15 +41,4 @@ const QString& FuzzSetup::application()
         return directory.path();
     }();
     return home;
-}
-
-void FuzzSetup::writeFile(const QString& name, const QByteArray& content)
-{
-    static QDateTime time = QDateTime::fromSecsSinceEpoch(1000000000);
-    time = time.addSecs(1);
-    QFile file(name);
-    MUST(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    MUST(file.write(content) == content.size());
-    MUST(file.flush());
-    MUST(file.setFileTime(time, QFileDevice::FileModificationTime));
 }

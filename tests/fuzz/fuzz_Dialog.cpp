@@ -2,10 +2,11 @@
 // record alone, an accepted one stores values that the controls can hold, and the host's bytes
 // stay untouched. Boxes are answered at once; the restarter is not there to be started.
 
-#include "FuzzInput.h"
-#include "FuzzSetup.h"
 #include "client/RecordFields.h"
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzSetup.h"
 #include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
@@ -313,9 +314,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     FuzzSetup::application();
     FuzzInput input(data, size);
-    FuzzSetup::writeFile(InterfaceSettings::filePath(),
-                         "[UI]\nlanguage=" + input.bytes(6)
-                             + "\nscale=" + QByteArray::number(input.integer()) + '\n');
+    writeFile(InterfaceSettings::filePath(),
+              "[UI]\nlanguage=" + input.bytes(6) + "\nscale=" + QByteArray::number(input.integer())
+                  + '\n');
     FakeTrade trade;
     fillRecord(trade, input);
     OwnedRecord before;

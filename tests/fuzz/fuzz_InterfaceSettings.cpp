@@ -1,8 +1,9 @@
 // Any bytes as the settings file: reading stays within the language list, and what is saved into
 // such a file is read back.
 
-#include "FuzzInput.h"
-#include "FuzzSetup.h"
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzSetup.h"
+#include "support/Files.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QDir>
@@ -18,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t rest = size > used ? size - used : 0;
 
     const QString path = InterfaceSettings::filePath();
-    FuzzSetup::writeFile(
+    writeFile(
         path,
         QByteArray(reinterpret_cast<const char*>(data + (size - rest)), static_cast<int>(rest)));
     const int found = InterfaceSettings::languageIndex();

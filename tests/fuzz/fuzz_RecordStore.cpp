@@ -1,11 +1,12 @@
 // Any bytes as the record's file: loading gives a record in range, loses nothing, and what is
 // saved afterwards loads again.
 
-#include "FuzzInput.h"
-#include "FuzzSetup.h"
 #include "client/DataDirectory.h"
 #include "client/RecordFields.h"
 #include "client/RecordStore.h"
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzSetup.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,13 +15,6 @@ using RecordFields::Field;
 using RecordFields::Kind;
 
 namespace {
-
-QByteArray contentOf(const QString& name)
-{
-    QFile file(name);
-    MUST(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 bool isInRange(const OwnedRecord& record, const Field& field)
 {
@@ -41,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const DataDirectory directory(FuzzSetup::application());
     MUST(directory.makeConfigDirectory());
     const auto text = QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    FuzzSetup::writeFile(directory.recordFile(), text);
+    writeFile(directory.recordFile(), text);
 
     RecordStore store(directory);
     OwnedRecord record;
@@ -49,6 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const Field& field : RecordFields::all())
         MUST(isInRange(record, field));
     if (report.isClean()) {
+        MUST(QFile::exists(directory.recordFile()));
         MUST(contentOf(directory.recordFile()) == text);
     } else {
         MUST(record == OwnedRecord());

@@ -2,10 +2,11 @@
 // "image.png" that it may name. Whatever is taken from the table is in range, and everything
 // that the module asks for can be asked for afterwards.
 
-#include "FuzzInput.h"
-#include "FuzzSetup.h"
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzSetup.h"
 #include "libskin/SkinLibrary.h"
 #include "libskin/SkinTable.h"
+#include "support/Files.h"
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
 
@@ -75,10 +76,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray table = dashes < 0 ? bytes : bytes.left(dashes);
     checkTable(table);
 
-    FuzzSetup::writeFile(folder + QStringLiteral("/skin.json"), table);
+    writeFile(folder + QStringLiteral("/skin.json"), table);
     const QByteArray image = dashes < 0 ? QByteArray() : bytes.mid(dashes + 6);
-    FuzzSetup::writeFile(folder + QStringLiteral("/image.svg"), image);
-    FuzzSetup::writeFile(folder + QStringLiteral("/image.png"), image);
+    writeFile(folder + QStringLiteral("/image.svg"), image);
+    writeFile(folder + QStringLiteral("/image.png"), image);
     const bool loaded = SkinLibrary::instance()->load(folder);
     MUST(loaded || !SkinLibrary::instance()->problems().isEmpty());
     paintEverything();

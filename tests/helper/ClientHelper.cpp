@@ -4,10 +4,10 @@
 //   clientHelper save HOME FIRST  stores the records FIRST, FIRST + 1, ... without end, and
 //                                 says each number when its record is stored
 
-#include "NumberedRecord.h"
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
 #include "client/RecordStore.h"
+#include "helper/NumberedRecord.h"
 
 #include <QCoreApplication>
 

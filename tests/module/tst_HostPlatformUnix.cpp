@@ -1,9 +1,10 @@
+#include "support/Files.h"
 #include "support/TestMain.h"
 #include "tradeConfig/platform/HostPlatform.h"
 #include "tradeConfig/platform/HostPlatform_unix.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -55,7 +56,6 @@ private:
                       const QStringList& more = {});
     QByteArray homePath(const QJsonObject& answers) const;
     QString path(const QString& name) const { return m_scratch->filePath(name); }
-    static void write(const QString& file, const QByteArray& bytes = "in the way");
 
     QScopedPointer<QTemporaryDir> m_scratch;
     QProcessEnvironment m_environment;
@@ -96,18 +96,10 @@ QByteArray tst_HostPlatformUnix::homePath(const QJsonObject& answers) const
     return QByteArray::fromHex(answers.value(QStringLiteral("home")).toString().toLatin1());
 }
 
-void tst_HostPlatformUnix::write(const QString& file, const QByteArray& bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
-    QFile out(file);
-    QVERIFY(out.open(QIODevice::WriteOnly));
-    QCOMPARE(out.write(bytes), qint64(bytes.size()));
-}
-
 void tst_HostPlatformUnix::directoryThere()
 {
     const QString expected = path(QStringLiteral("home/.com.kivotrade.tradeclient"));
-    write(expected + QStringLiteral("/kept"));
+    writeFile(expected + QStringLiteral("/kept"), "in the way");
     const QJsonObject answers = probe();
     QCOMPARE(homePath(answers), expected.toUtf8());
     QVERIFY(QFile::exists(expected + QStringLiteral("/kept")));
@@ -126,7 +118,7 @@ void tst_HostPlatformUnix::directoryCreatedWithParents()
 void tst_HostPlatformUnix::fileInTheWay()
 {
     const QString first = path(QStringLiteral("home/.com.kivotrade.tradeclient"));
-    write(first);
+    writeFile(first, "in the way");
     const QJsonObject answers = probe();
     // One dot before the whole path: relative to the current directory.
     QCOMPARE(homePath(answers), '.' + first.toUtf8());
@@ -138,8 +130,8 @@ void tst_HostPlatformUnix::fileInTheWay()
 void tst_HostPlatformUnix::filesInTheWayTwice()
 {
     const QString first = path(QStringLiteral("home/.com.kivotrade.tradeclient"));
-    write(first);
-    write(path(QStringLiteral("cwd/.")) + first);
+    writeFile(first, "in the way");
+    writeFile(path(QStringLiteral("cwd/.")) + first, "in the way");
     const QJsonObject answers = probe();
     QCOMPARE(homePath(answers), ".." + first.toUtf8());
     QVERIFY(QDir(m_scratch->path() + QFileInfo(first).path()).exists());
@@ -165,7 +157,7 @@ void tst_HostPlatformUnix::linkToDirectory()
 void tst_HostPlatformUnix::creationFails()
 {
     // A home that is a file: nothing exists below it, and nothing can be made there.
-    write(path(QStringLiteral("home")));
+    writeFile(path(QStringLiteral("home")), "in the way");
     const QString first = path(QStringLiteral("home/.com.kivotrade.tradeclient"));
     const QJsonObject answers = probe();
     QCOMPARE(homePath(answers), '.' + first.toUtf8());
@@ -174,8 +166,8 @@ void tst_HostPlatformUnix::creationFails()
 
 void tst_HostPlatformUnix::creationFailsTwice()
 {
-    write(path(QStringLiteral("home")));
-    write(path(QStringLiteral("cwd/.")) + path(QStringLiteral("home")));
+    writeFile(path(QStringLiteral("home")), "in the way");
+    writeFile(path(QStringLiteral("cwd/.")) + path(QStringLiteral("home")), "in the way");
     const QString first = path(QStringLiteral("home/.com.kivotrade.tradeclient"));
     QCOMPARE(homePath(probe()), ".." + first.toUtf8());
 }
@@ -322,9 +314,10 @@ void tst_HostPlatformUnix::machineIdentifier()
     for (const char* const entry : {"product_serial", "product_uuid"}) {
         const QString root = path(QString::fromLatin1(entry));
         if (!dmi.isNull())
-            write(root + QStringLiteral("/sys/class/dmi/id/") + QString::fromLatin1(entry), dmi);
+            writeFile(root + QStringLiteral("/sys/class/dmi/id/") + QString::fromLatin1(entry),
+                      dmi);
         if (!machineId.isNull())
-            write(root + QStringLiteral("/etc/machine-id"), machineId);
+            writeFile(root + QStringLiteral("/etc/machine-id"), machineId);
         const std::string found = HostPlatform::machineIdentifier(root.toStdString(), entry);
         QCOMPARE(QByteArray::fromStdString(found), expected);
     }
@@ -333,12 +326,12 @@ void tst_HostPlatformUnix::machineIdentifier()
 void tst_HostPlatformUnix::withheldFromTheUser()
 {
     const QString serial = path(QStringLiteral("sys/class/dmi/id/product_serial"));
-    write(path(QStringLiteral("etc/machine-id")), "3d12\n");
+    writeFile(path(QStringLiteral("etc/machine-id")), "3d12\n");
     if (geteuid() == 0) {
         // Nothing is withheld from root by its mode; a directory cannot be read by anybody.
         QVERIFY(QDir().mkpath(serial));
     } else {
-        write(serial, "secret\n");
+        writeFile(serial, "secret\n");
         QVERIFY(QFile::setPermissions(serial, {}));
     }
     QCOMPARE(HostPlatform::machineIdentifier(m_scratch->path().toStdString(), "product_serial"),
@@ -359,10 +352,8 @@ void tst_HostPlatformUnix::terminatedCopy()
 
 void tst_HostPlatformUnix::idsOfThisMachine()
 {
-    const auto lineOf = [](const QString& name) {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed() : QByteArray();
-    };
+    const auto lineOf
+        = [](const QString& name) { return contentOf(name).split('\n').first().trimmed(); };
     const auto expected = [&lineOf](const QString& name) {
         const QByteArray line = lineOf(QStringLiteral("/sys/class/dmi/id/") + name);
         return line.isEmpty() ? lineOf(QStringLiteral("/etc/machine-id")) : line;

@@ -1,4 +1,5 @@
 #include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 
 #include <QLibrary>
@@ -61,9 +62,7 @@ void tst_ModuleExports::exactlySevenSymbols()
 
 void tst_ModuleExports::listForTheLinkerOfMacOs()
 {
-    QFile list(QStringLiteral(EXPORTS_LIST));
-    QVERIFY(list.open(QIODevice::ReadOnly));
-    QCOMPARE(list.readAll(),
+    QCOMPARE(contentOf(QStringLiteral(EXPORTS_LIST)),
              QByteArray("_CreateModuleWidget\n_ApplicationHomePath\n"
                         "_hideWindowCaptionBar\n_GetMainExecutableVersion\n"
                         "_GetMainExecutableVersionNum\n_GetDiskId\n"

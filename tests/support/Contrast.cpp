@@ -1,4 +1,4 @@
-#include "Contrast.h"
+#include "support/Contrast.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "FakeTrade.h"
+#include "support/FakeTrade.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "RecordingSkin.h"
+#include "support/RecordingSkin.h"
 
 #include "tradeConfig/skin/CSkin.h"
 

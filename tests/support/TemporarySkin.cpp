@@ -1,7 +1,8 @@
-#include "TemporarySkin.h"
+#include "support/TemporarySkin.h"
+
+#include "support/Files.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QtTest>
 
@@ -16,10 +17,10 @@ QString shippedFolder(const QString& name)
 
 QJsonObject shippedSkinTable(const QString& name)
 {
-    QFile file(shippedFolder(name) + QStringLiteral("/skin.json"));
-    if (!file.open(QIODevice::ReadOnly))
+    const QByteArray table = contentOf(shippedFolder(name) + QStringLiteral("/skin.json"));
+    if (table.isEmpty())
         QTest::qFail("a shipped skin has no table", __FILE__, __LINE__);
-    return QJsonDocument::fromJson(file.readAll()).object();
+    return QJsonDocument::fromJson(table).object();
 }
 
 TemporarySkin::TemporarySkin()
@@ -50,9 +51,7 @@ void TemporarySkin::setSection(const QString& section, const QJsonValue& value)
 
 void TemporarySkin::write(const QString& name, const QByteArray& bytes) const
 {
-    QFile output(file(name));
-    if (!output.open(QIODevice::WriteOnly) || output.write(bytes) != bytes.size())
-        QTest::qFail("a file of a test's skin cannot be written", __FILE__, __LINE__);
+    writeFile(file(name), bytes);
 }
 
 void TemporarySkin::write(const QString& name, const QImage& image) const

@@ -1,4 +1,4 @@
-#include "TestMain.h"
+#include "support/TestMain.h"
 
 #include <QMetaObject>
 

@@ -1,5 +1,6 @@
 #include "gallery/Gallery.h"
 #include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/NavWidget.h"
@@ -36,13 +37,10 @@ struct Message {
 
 QVector<Message> messagesOf(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
     QVector<Message> messages;
     QString context;
     bool plural = false;
-    QXmlStreamReader xml(&file);
+    QXmlStreamReader xml(contentOf(path));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;

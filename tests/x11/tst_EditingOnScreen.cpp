@@ -1,5 +1,6 @@
 #include "client/DataDirectory.h"
 #include "client/TradeCore.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/SwitchEx.h"
@@ -88,8 +89,7 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
     parm.splitStrategy = 1;
     parm.splitMaxQty = 1000;
     parm.splitMinQty = 200;
-    QFile stored(directory.recordFile());
-    QVERIFY(!stored.exists());
+    QVERIFY(!QFile::exists(directory.recordFile()));
 
     CTradeConfigWidget dialog(&core);
     // The splitting page is not in the navigation list.
@@ -133,7 +133,7 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
         QCOMPARE(closer.text(), refusal);
     }
     QVERIFY(dialog.isVisible());
-    QVERIFY(!stored.exists());
+    QVERIFY(!QFile::exists(directory.recordFile()));
 
     // A free key; Escape is one as well and closes nothing.
     QTRY_VERIFY_WITH_TIMEOUT(dialog.isActiveWindow(), patience);
@@ -169,15 +169,14 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
         QTRY_VERIFY_WITH_TIMEOUT(closer.closed(), patience);
         QCOMPARE(closer.text(), refusal);
     }
-    QVERIFY(!stored.exists());
+    QVERIFY(!QFile::exists(directory.recordFile()));
     QTRY_VERIFY_WITH_TIMEOUT(dialog.isActiveWindow(), patience);
     enter({QStringLiteral("3"), QStringLiteral("0"), QStringLiteral("0")});
     QTRY_COMPARE_WITH_TIMEOUT(lower.styleSheet(), QStringLiteral("color:green"), patience);
 
     click(confirm);
     QTRY_VERIFY_WITH_TIMEOUT(!dialog.isVisible(), patience);
-    QVERIFY(stored.open(QIODevice::ReadOnly));
-    const QJsonObject record = QJsonDocument::fromJson(stored.readAll()).object();
+    const QJsonObject record = QJsonDocument::fromJson(contentOf(directory.recordFile())).object();
     const QJsonArray keys = record.value(QStringLiteral("stockShortcuts")).toArray();
     QCOMPARE(keys.at(0).toString(), QStringLiteral("Ctrl+Alt+J"));
     QCOMPARE(keys.at(1).toString(), QStringLiteral("Ctrl+S"));

@@ -1,6 +1,7 @@
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
 #include "client/TradeCore.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 
@@ -83,11 +84,7 @@ private:
     {
         return m_home.filePath(QStringLiteral(".com.kivotrade.tradeclient/") + name);
     }
-    QByteArray start() const
-    {
-        QFile file(data(QStringLiteral("run/client.start")));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray start() const { return contentOf(data(QStringLiteral("run/client.start"))); }
 
     const QTemporaryDir m_home;
 };
@@ -114,11 +111,8 @@ void tst_RestartOnScreen::comesBackInTheNewScale()
     const QPoint interfacePageAt = layout.ui.widget_system->mapTo(&layout, QPoint(60, 2 * 50 + 25));
 
     // A user who works in 100 %.
-    QVERIFY(QDir().mkpath(data(QStringLiteral("config"))));
-    QFile settings(data(QStringLiteral("config/system_settings.ini")));
-    QVERIFY(settings.open(QIODevice::WriteOnly));
-    settings.write("[UI]\nlanguage=zh_CN\nscale=100\n");
-    settings.close();
+    writeFile(data(QStringLiteral("config/system_settings.ini")),
+              "[UI]\nlanguage=zh_CN\nscale=100\n");
     QProcess client;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), m_home.path());
@@ -171,12 +165,9 @@ void tst_RestartOnScreen::comesBackInTheNewScale()
     const QSettings stored(data(QStringLiteral("config/system_settings.ini")),
                            QSettings::IniFormat);
     QCOMPARE(stored.value(QStringLiteral("UI/scale")).toInt(), 150);
-    QFile record(data(QStringLiteral("config/trade_parameters.json")));
-    QVERIFY2(record.open(QIODevice::ReadOnly), "the record was saved as well");
-    QCOMPARE(QJsonDocument::fromJson(record.readAll())
-                 .object()
-                 .value(QStringLiteral("lockMinutes"))
-                 .toInt(),
+    const QByteArray record = contentOf(data(QStringLiteral("config/trade_parameters.json")));
+    QVERIFY2(!record.isEmpty(), "the record was saved as well");
+    QCOMPARE(QJsonDocument::fromJson(record).object().value(QStringLiteral("lockMinutes")).toInt(),
              30);
 
     // And it is a client like any other: it ends when its user wants it.
