@@ -1,5 +1,6 @@
 #include "support/FakeTrade.h"
 #include "support/MarkingTranslator.h"
+#include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -20,46 +21,6 @@ namespace {
 const QString refusal
     = QStringLiteral("存在不合理的修改参数\n请把红色标记的值修改为绿色标记后再次点击确定！");
 const QString restartQuestion = QStringLiteral("部分修改需要重启后生效，确定现在重启吗？");
-
-struct LogLine {
-    QtMsgType type;
-    QString text;
-    QString file;
-    QString function;
-};
-
-// Collects what is logged while it lives.
-class LogCapture {
-public:
-    LogCapture()
-    {
-        s_lines.clear();
-        m_previous = qInstallMessageHandler(take);
-    }
-    ~LogCapture() { qInstallMessageHandler(m_previous); }
-
-    static QList<LogLine> lines() { return s_lines; }
-    // Without the warnings of the platform plugin.
-    static QStringList debugTexts()
-    {
-        QStringList all;
-        for (const LogLine& line : qAsConst(s_lines)) {
-            if (line.type == QtDebugMsg)
-                all << line.text;
-        }
-        return all;
-    }
-
-private:
-    static void take(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        s_lines.append(
-            {type, text, QString::fromUtf8(context.file), QString::fromUtf8(context.function)});
-    }
-
-    static inline QList<LogLine> s_lines;
-    QtMessageHandler m_previous = nullptr;
-};
 
 // Logs every call, so that its place among the progress lines shows.
 class LoggingTrade : public FakeTrade {
@@ -240,13 +201,13 @@ void tst_CTradeConfigWidget::progressLines()
 {
     LoggingTrade trade;
     trade.setDistinctShortcuts();
-    const LogCapture log;
+    const MessageCapture log;
     const CTradeConfigWidget dialog(&trade);
-    QCOMPARE(LogCapture::debugTexts().join(QLatin1Char('|')),
+    QCOMPARE(log.texts(QtDebugMsg).join(QLatin1Char('|')),
              QStringLiteral("CTradeConfigWidget 1|get|CTradeConfigWidget 2|CTradeConfigWidget 3|"
                             "get|CTradeConfigWidget 4"));
     int progress = 0;
-    for (const LogLine& line : LogCapture::lines()) {
+    for (const MessageCapture::Line& line : log.lines()) {
         if (line.text == QLatin1String("get"))
             continue;
         ++progress;
@@ -891,10 +852,10 @@ void tst_CTradeConfigWidget::validityIsLoggedUpToTheFirstFalse()
     opened->inputValidity.insert(QStringLiteral("c"), false);
     QStringList lines;
     {
-        const LogCapture log;
+        const MessageCapture log;
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
         opened->WriteAllParm();
-        lines = LogCapture::debugTexts();
+        lines = log.texts(QtDebugMsg);
     }
     QCOMPARE(lines,
              (QStringList{QStringLiteral("a : true"), QStringLiteral("b : true"),
@@ -903,9 +864,9 @@ void tst_CTradeConfigWidget::validityIsLoggedUpToTheFirstFalse()
     opened->inputValidity[QStringLiteral("c")] = true;
     opened->inputValidity[QStringLiteral("d")] = true;
     {
-        const LogCapture log;
+        const MessageCapture log;
         opened->WriteAllParm();
-        lines = LogCapture::debugTexts();
+        lines = log.texts(QtDebugMsg);
     }
     QCOMPARE(lines.join(QLatin1Char('|')), QStringLiteral("a : true|b : true|c : true|d : true"));
     QCOMPARE(opened.trade.saves, 1);
@@ -914,9 +875,9 @@ void tst_CTradeConfigWidget::validityIsLoggedUpToTheFirstFalse()
 void tst_CTradeConfigWidget::noValidityEntriesNoLog()
 {
     Opened opened;
-    const LogCapture log;
+    const MessageCapture log;
     opened->WriteAllParm();
-    QCOMPARE(LogCapture::debugTexts(), QStringList());
+    QCOMPARE(log.texts(QtDebugMsg), QStringList());
     QCOMPARE(opened.trade.saves, 1);
 }
 

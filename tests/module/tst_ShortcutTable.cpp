@@ -1,6 +1,7 @@
 #include "support/Contrast.h"
 #include "support/FakeTrade.h"
 #include "support/MarkingTranslator.h"
+#include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -93,26 +94,6 @@ struct Side {
 };
 
 QList<int> allRows() { return {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}; }
-
-QStringList seen;
-
-void recordMessage(QtMsgType, const QMessageLogContext&, const QString& text) { seen << text; }
-
-/// The debug lines written while this object lives.
-class Log {
-public:
-    Log()
-        : m_previous(qInstallMessageHandler(recordMessage))
-    {
-        seen.clear();
-    }
-    ~Log() { qInstallMessageHandler(m_previous); }
-    Log(const Log&) = delete;
-    Log& operator=(const Log&) = delete;
-
-private:
-    QtMessageHandler m_previous;
-};
 
 } // namespace
 
@@ -684,23 +665,23 @@ void tst_ShortcutTable::creditAloneWritesTheList()
 {
     const Side stock(false);
     const Side credit(true);
-    const Log log;
+    const MessageCapture log;
     stock.capture(4, Qt::Key_Y, Qt::ControlModifier);
     stock.capture(5, Qt::Key_Y, Qt::ControlModifier);
-    QVERIFY(seen.filter(QStringLiteral("edit m_shortCutList2 ")).isEmpty());
+    QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 0);
 
     credit.capture(4, Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 1);
-    QCOMPARE(seen.constLast(),
+    QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 1);
+    QCOMPARE(log.texts().constLast(),
              QStringLiteral("edit m_shortCutList2  (\"Alt+A\", \"Alt+B\", \"Alt+F\", \"Alt+G\", "
                             "\"Ctrl+Y\", \"Alt+D\", \"Alt+E\", \"Alt+H\", \"Alt+I\", \"Alt+J\", "
                             "\"Alt+K\", \"Alt+L\", \"Alt+M\")"));
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
+    QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 2);
     // Neither an unchanged nor an empty key writes it.
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
     Q_EMIT credit.editor(5).signal_editFinished(5, QString());
-    QCOMPARE(seen.filter(QStringLiteral("edit m_shortCutList2 ")).size(), 2);
+    QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 2);
 }
 
 void tst_ShortcutTable::sendingEditorIsMarked()

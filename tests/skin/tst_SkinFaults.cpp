@@ -258,14 +258,14 @@ void tst_SkinFaults::partlyBadSkin()
     QVERIFY2(problem.file.endsWith(QLatin1String(wanted.file)), qPrintable(problem.file));
     QCOMPARE(problem.key, QLatin1String(wanted.key));
     QVERIFY2(problem.reason.contains(QLatin1String(wanted.reason)), qPrintable(problem.reason));
-    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(log.texts().size(), 1);
     for (const QString& part : {problem.file, problem.key, problem.reason})
-        QVERIFY2(log.lines().first().contains(part), qPrintable(log.lines().first()));
+        QVERIFY2(log.texts().first().contains(part), qPrintable(log.texts().first()));
 
     // The damaged skin is a copy of the light one, so the light one serves unseen.
     QCOMPARE(everythingDrawn(), complete);
     QCOMPARE(library->palette(), palette);
-    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(log.texts().size(), 1);
 }
 
 void tst_SkinFaults::theRestIsTheSkinsOwn()
@@ -363,7 +363,7 @@ void tst_SkinFaults::uselessSkin()
     QVERIFY2(problem.file.startsWith(name), qPrintable(problem.file));
     QCOMPARE(problem.key, QString());
     QVERIFY2(problem.reason.contains(reason), qPrintable(problem.reason));
-    QCOMPARE(log.lines().size(), 1);
+    QCOMPARE(log.texts().size(), 1);
     QCOMPARE(library->currentName(), QStringLiteral("light"));
     QCOMPARE(everythingDrawn(), light);
 }

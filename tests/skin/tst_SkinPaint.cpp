@@ -720,13 +720,13 @@ void tst_SkinPaint::unknownKeysAreReportedOnce()
     QCOMPARE(log.count(QStringLiteral("font key \"MissingFont\"")), 1);
     QCOMPARE(log.count(QStringLiteral("image key \"MissingFont\"")), 1);
     QCOMPARE(log.count(QStringLiteral("\"MissingImage\"")), 1);
-    QCOMPARE(log.lines().size(), 4);
+    QCOMPARE(log.texts().size(), 4);
 
     // Known keys are not reported, and another skin does not begin anew.
     skin()->fillRect(painter, QRectF(0, 0, 9, 9), QStringLiteral("Green"));
     QVERIFY(SkinLibrary::instance()->load(m_skin.folder()));
     skin()->fillRect(painter, QRectF(0, 0, 9, 9), QStringLiteral("Missing colour"));
-    QCOMPARE(log.lines().size(), 4);
+    QCOMPARE(log.texts().size(), 4);
 }
 
 TRADECONFIG_TEST_MAIN(tst_SkinPaint)

@@ -1,5 +1,6 @@
 #include "libskin/SkinLibrary.h"
 #include "support/Contrast.h"
+#include "support/Files.h"
 #include "support/MessageCapture.h"
 #include "support/TemporarySkin.h"
 #include "support/TestMain.h"
@@ -98,7 +99,7 @@ void tst_SkinShipped::loadsWithoutProblems()
     QVERIFY(SkinLibrary::instance()->load(skin));
     QCOMPARE(SkinLibrary::instance()->currentName(), skin);
     QCOMPARE(SkinLibrary::instance()->problems().size(), 0);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.texts(), QStringList());
 
     // By its folder it is the same skin.
     QVERIFY(SkinLibrary::instance()->load(QStringLiteral(TRADECONFIG_SKINS_DIR "/") + skin
@@ -139,7 +140,7 @@ void tst_SkinShipped::everyColour()
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     QCOMPARE(image.pixelColor(2, 0).alpha(), 0);
     QCOMPARE(SkinLibrary::instance()->colour(key), expected);
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.texts(), QStringList());
 }
 
 void tst_SkinShipped::everyFont_data() { addRows(SkinKeys::fonts); }
@@ -166,7 +167,7 @@ void tst_SkinShipped::everyFont()
     QCOMPARE(size, QFontMetricsF(font, &device).size(0, QStringLiteral("系统设置 Kivo 12.5")));
     // The navigation list draws into rows of 20.
     QVERIFY2(size.height() <= 20.0, qPrintable(QString::number(size.height())));
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.texts(), QStringList());
 }
 
 void tst_SkinShipped::everyImage_data() { addRows(SkinKeys::images); }
@@ -192,7 +193,7 @@ void tst_SkinShipped::everyImage()
         for (int earlier = 0; earlier < index; ++earlier)
             QVERIFY(drawn.at(earlier) != drawn.last());
     }
-    QCOMPARE(log.lines(), QStringList());
+    QCOMPARE(log.texts(), QStringList());
 }
 
 void tst_SkinShipped::builtInLightIsTheShippedOne()
@@ -201,12 +202,11 @@ void tst_SkinShipped::builtInLightIsTheShippedOne()
     QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories);
     int count = 0;
     while (files.hasNext()) {
-        QFile shipped(files.next());
-        QFile builtIn(QStringLiteral(":/libskin/skins/light/")
-                      + shipped.fileName().mid(root.size()));
-        QVERIFY(shipped.open(QIODevice::ReadOnly));
-        QVERIFY2(builtIn.open(QIODevice::ReadOnly), qPrintable(builtIn.fileName()));
-        QCOMPARE(builtIn.readAll(), shipped.readAll());
+        const QString name = files.next();
+        const QByteArray shipped = contentOf(name);
+        QVERIFY2(!shipped.isEmpty(), qPrintable(name));
+        QCOMPARE(contentOf(QStringLiteral(":/libskin/skins/light/") + name.mid(root.size())),
+                 shipped);
         ++count;
     }
     QCOMPARE(count, 18);
@@ -358,11 +358,11 @@ void tst_SkinShipped::marksAreReadable()
 
 void tst_SkinShipped::documentNamesEveryKey()
 {
-    QFile document(QStringLiteral(TRADECONFIG_DOCS_DIR "/skin-format.md"));
-    QVERIFY(document.open(QIODevice::ReadOnly));
+    const QByteArray document = contentOf(QStringLiteral(TRADECONFIG_DOCS_DIR "/skin-format.md"));
+    QVERIFY(!document.isEmpty());
     QStringList documented;
-    while (!document.atEnd()) {
-        const QString line = QString::fromUtf8(document.readLine()).trimmed();
+    for (const QByteArray& bytes : document.split('\n')) {
+        const QString line = QString::fromUtf8(bytes).trimmed();
         for (const char* kind : {"` | colour |", "` | font |", "` | image |"}) {
             if (line.startsWith(QLatin1String("| `")) && line.contains(QLatin1String(kind)))
                 documented << line;
