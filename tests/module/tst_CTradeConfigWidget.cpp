@@ -1,9 +1,9 @@
-#include "support/FakeTrade.h"
+#include "support/Files.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/ModuleEntry.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QSettings>
 
-#include <memory>
 #include <optional>
 #include <stdexcept>
 
@@ -90,20 +89,14 @@ public:
     bool consumedAny = false;
 };
 
-struct Opened {
-    FakeTrade trade;
-    std::unique_ptr<CTradeConfigWidget> dialog;
-
+struct Opened : TestDialog {
     explicit Opened(int uiPageMode = 2)
+        : TestDialog([uiPageMode](FakeTrade& core) {
+            core.parm().uiPageMode = uiPageMode;
+            core.parm().starSplitStrategy = 3;
+        })
     {
-        trade.setDistinctShortcuts();
-        trade.parm().uiPageMode = uiPageMode;
-        trade.parm().starSplitStrategy = 3;
-        dialog = std::make_unique<CTradeConfigWidget>(&trade);
     }
-
-    Ui_CTradeConfigWidget& ui() { return dialog->ui; }
-    CTradeConfigWidget* operator->() { return dialog.get(); }
 };
 
 QString settingsFile() { return QDir::homePath() + QStringLiteral("/.com.kivotrade.tradeclient"); }
@@ -255,17 +248,17 @@ void tst_CTradeConfigWidget::parentAndWindowFlags()
 void tst_CTradeConfigWidget::everyStackStartsAtItsFirstPage()
 {
     Opened opened;
-    QCOMPARE(opened.ui().stackedWidget->currentIndex(), 0);
-    QCOMPARE(opened.ui().stackedWidget_system->currentIndex(), 0);
-    QCOMPARE(opened.ui().stackedWidget_trade->currentIndex(), 0);
-    QCOMPARE(opened.ui().stackedWidget_shortcut->currentIndex(), 0);
+    QCOMPARE(opened->ui.stackedWidget->currentIndex(), 0);
+    QCOMPARE(opened->ui.stackedWidget_system->currentIndex(), 0);
+    QCOMPARE(opened->ui.stackedWidget_trade->currentIndex(), 0);
+    QCOMPARE(opened->ui.stackedWidget_shortcut->currentIndex(), 0);
 }
 
 void tst_CTradeConfigWidget::switchBar()
 {
     Opened opened;
     CSwitchEx& bar = *opened->switchBar;
-    QCOMPARE(bar.parentWidget(), opened.ui().widget);
+    QCOMPARE(bar.parentWidget(), opened->ui.widget);
     QCOMPARE(bar.objectName(), QStringLiteral("switchex_widget"));
     QCOMPARE(bar.minimumSize(), QSize(657, 60));
     QCOMPARE(bar.maximumWidth(), 657);
@@ -274,7 +267,7 @@ void tst_CTradeConfigWidget::switchBar()
     QCOMPARE(bar.padding, QMarginsF(0, 0, 0, 0));
     QCOMPARE(bar.itemSize, 219);
     QVERIFY(!bar.backgroundEnable);
-    QCOMPARE(opened.ui().horizontalLayout->count(), 0);
+    QCOMPARE(opened->ui.horizontalLayout->count(), 0);
 
     opened->show();
     QCOMPARE(bar.geometry(), QRect(0, 0, 657, 60));
@@ -305,19 +298,19 @@ void tst_CTradeConfigWidget::systemPages()
 {
     QFETCH(int, pages);
     Opened opened(QByteArray(QTest::currentDataTag()).toInt());
-    QCOMPARE(pageNames(*opened.ui().widget_system),
+    QCOMPARE(pageNames(*opened->ui.widget_system),
              (QStringList{QStringLiteral("基础设置"), QStringLiteral("联动设置"),
                           QStringLiteral("界面设置")}
                   .mid(0, pages)));
-    QCOMPARE(opened.ui().widget_system->count, pages);
+    QCOMPARE(opened->ui.widget_system->count, pages);
 }
 
 void tst_CTradeConfigWidget::otherPageLists()
 {
     Opened opened;
-    QCOMPARE(pageNames(*opened.ui().widget_trade),
+    QCOMPARE(pageNames(*opened->ui.widget_trade),
              (QStringList{QStringLiteral("默认设置"), QStringLiteral("提示设置")}));
-    QCOMPARE(pageNames(*opened.ui().widget_shortcut),
+    QCOMPARE(pageNames(*opened->ui.widget_shortcut),
              (QStringList{QStringLiteral("普通快捷设置"), QStringLiteral("信用快捷设置"),
                           QStringLiteral("全局交易设置")}));
 }
@@ -330,7 +323,7 @@ void tst_CTradeConfigWidget::frameTextsAreTranslated()
     for (const SwitchItem* const item : qAsConst(opened->switchBar->items))
         texts << item->label;
     for (const CNavWidget* const list :
-         {opened.ui().widget_system, opened.ui().widget_trade, opened.ui().widget_shortcut})
+         {opened->ui.widget_system, opened->ui.widget_trade, opened->ui.widget_shortcut})
         texts << list->items;
     QCOMPARE(texts.size(), 11);
     for (const QString& text : qAsConst(texts))
@@ -345,13 +338,13 @@ void tst_CTradeConfigWidget::frameTextsAreTranslated()
 
 void tst_CTradeConfigWidget::hiddenControls()
 {
-    FakeTrade trade;
-    trade.parm().uiPageMode = 2;
-    trade.parm().splitStrategy = 1;
-    trade.parm().starSplitStrategy = 3;
-    const CTradeConfigWidget dialog(&trade);
+    const TestDialog dialog([](FakeTrade& core) {
+        core.parm().uiPageMode = 2;
+        core.parm().splitStrategy = 1;
+        core.parm().starSplitStrategy = 3;
+    });
     QStringList hidden;
-    for (const QWidget* const widget : dialog.findChildren<QWidget*>()) {
+    for (const QWidget* const widget : dialog->findChildren<QWidget*>()) {
         const QWidget* const parent = widget->parentWidget();
         const bool onPage = parent->objectName().startsWith(QLatin1String("page"));
         if (onPage && widget->isHidden())
@@ -379,7 +372,7 @@ void tst_CTradeConfigWidget::hiddenControls()
     };
     expected.sort();
     QCOMPARE(hidden, expected);
-    QVERIFY(dialog.ui.comboBox_system_fontSize->isEnabled());
+    QVERIFY(dialog->ui.comboBox_system_fontSize->isEnabled());
 }
 
 void tst_CTradeConfigWidget::validators()
@@ -391,9 +384,9 @@ void tst_CTradeConfigWidget::validators()
         ++edits;
         const auto* const validator = qobject_cast<const QIntValidator*>(edit->validator());
         QVERIFY2(validator, qPrintable(edit->objectName()));
-        QCOMPARE(validator->parent(), opened.dialog.get());
+        QCOMPARE(validator->parent(), opened.get());
         QCOMPARE(validator->bottom(), 0);
-        if (edit == opened.ui().lineEdit_system_lockTime) {
+        if (edit == opened->ui.lineEdit_system_lockTime) {
             QCOMPARE(validator->top(), 1000);
         } else {
             QCOMPARE(validator->top(), 10000000);
@@ -403,7 +396,7 @@ void tst_CTradeConfigWidget::validators()
     // Nine in the form, the scale's inner one, thirteen in each table of keys, two fixed keys.
     QCOMPARE(edits, 38);
     QCOMPARE(shared.size(), 1);
-    QVERIFY(!shared.contains(opened.ui().lineEdit_system_lockTime->validator()));
+    QVERIFY(!shared.contains(opened->ui.lineEdit_system_lockTime->validator()));
     QCOMPARE(opened->findChildren<QIntValidator*>(QString(), Qt::FindDirectChildrenOnly).size(), 2);
 }
 
@@ -430,7 +423,7 @@ void tst_CTradeConfigWidget::tipLabelStartsHidden()
 {
     Opened opened;
     QVERIFY(opened->tipLabel);
-    QCOMPARE(opened->tipLabel->parentWidget(), opened.dialog.get());
+    QCOMPARE(opened->tipLabel->parentWidget(), opened.get());
     QVERIFY(opened->tipLabel->isHidden());
     QCOMPARE(opened->tipLabel->text(), QString());
     QCOMPARE(opened->tipLabel->styleSheet(), QStringLiteral("color:red;"));
@@ -466,22 +459,15 @@ void tst_CTradeConfigWidget::scaleFromFile()
     QFETCH(int, shown);
     QVERIFY(QDir().mkpath(settingsFile() + QStringLiteral("/config")));
     const QString path = settingsFile() + QStringLiteral("/config/system_settings.ini");
-    if (!content.isNull()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
+    if (!content.isNull())
+        writeFile(path, content);
     Opened opened;
-    QCOMPARE(opened.ui().spinBox_scale->value(), shown);
+    QCOMPARE(opened->ui.spinBox_scale->value(), shown);
     QVERIFY(!opened->restartNeeded);
     opened->WriteAllParm(); // asks nothing and leaves the file alone
     QCOMPARE(opened.trade.saves, 1);
-    QFile file(path);
-    QCOMPARE(file.exists(), !content.isNull());
-    if (!content.isNull()) {
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), content);
-    }
+    QCOMPARE(QFile::exists(path), !content.isNull());
+    QCOMPARE(contentOf(path), content);
 }
 
 void tst_CTradeConfigWidget::freshState()
@@ -492,8 +478,8 @@ void tst_CTradeConfigWidget::freshState()
     QVERIFY(opened->starBuyRiseText.isEmpty());
     QVERIFY(opened->starSellRiseText.isEmpty());
     for (const QLineEdit* const edit :
-         {opened.ui().lineEdit_trade_baseCount, opened.ui().lineEdit_trade_high,
-          opened.ui().lineEdit_system_lockTime, opened.ui().lineEdit_trade_kc_baseCount})
+         {opened->ui.lineEdit_trade_baseCount, opened->ui.lineEdit_trade_high,
+          opened->ui.lineEdit_system_lockTime, opened->ui.lineEdit_trade_kc_baseCount})
         QVERIFY(edit->styleSheet().isEmpty());
 }
 
@@ -539,9 +525,9 @@ void tst_CTradeConfigWidget::navigationListsDriveTheirStacks()
 {
     Opened opened;
     const std::pair<CNavWidget*, QStackedWidget*> groups[]
-        = {{opened.ui().widget_system, opened.ui().stackedWidget_system},
-           {opened.ui().widget_trade, opened.ui().stackedWidget_trade},
-           {opened.ui().widget_shortcut, opened.ui().stackedWidget_shortcut}};
+        = {{opened->ui.widget_system, opened->ui.stackedWidget_system},
+           {opened->ui.widget_trade, opened->ui.stackedWidget_trade},
+           {opened->ui.widget_shortcut, opened->ui.stackedWidget_shortcut}};
     for (const auto& [list, stack] : groups) {
         for (const int index : {1, 2, 0}) {
             Q_EMIT list->signal_onclicked(index);
@@ -554,7 +540,7 @@ void tst_CTradeConfigWidget::navigationListsDriveTheirStacks()
 void tst_CTradeConfigWidget::inputSignalsHaveTheirEffect()
 {
     Opened opened;
-    Ui_CTradeConfigWidget& ui = opened.ui();
+    Ui_CTradeConfigWidget& ui = opened->ui;
     ui.comboBox_trade_split->setCurrentIndex(2);
     QVERIFY(ui.lineEdit_trade_low->isHidden());
     QVERIFY(!ui.lineEdit_trade_desc->isHidden());
@@ -575,7 +561,7 @@ void tst_CTradeConfigWidget::inputSignalsHaveTheirEffect()
 void tst_CTradeConfigWidget::protectionPriceSignalsHaveTheirEffect()
 {
     Opened opened;
-    Ui_CTradeConfigWidget& ui = opened.ui();
+    Ui_CTradeConfigWidget& ui = opened->ui;
     ui.pushButton_kc_buyRise->click();
     QVERIFY(ui.comboBox_trade_kc_buyRise->isEditable());
     QVERIFY(!ui.comboBox_trade_kc_sellRise->isEditable());
@@ -593,12 +579,12 @@ void tst_CTradeConfigWidget::scaleEditAsksForARestart()
 {
     Opened opened;
     QVERIFY(!opened->restartNeeded);
-    opened.ui().spinBox_scale->setValue(100); // the value that it has
+    opened->ui.spinBox_scale->setValue(100); // the value that it has
     QVERIFY(!opened->restartNeeded);
-    opened.ui().spinBox_scale->stepUp();
-    QCOMPARE(opened.ui().spinBox_scale->value(), 105);
+    opened->ui.spinBox_scale->stepUp();
+    QCOMPARE(opened->ui.spinBox_scale->value(), 105);
     QVERIFY(opened->restartNeeded);
-    opened.ui().spinBox_scale->stepDown();
+    opened->ui.spinBox_scale->stepDown();
     QVERIFY(opened->restartNeeded);
 }
 
@@ -615,7 +601,7 @@ void tst_CTradeConfigWidget::languageChangeIsReported()
 {
     Opened opened;
     const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("否"));
-    opened.ui().comboBox_system_language->setCurrentIndex(2);
+    opened->ui.comboBox_system_language->setCurrentIndex(2);
     QCOMPARE(answer.text(), restartQuestion);
     QCOMPARE(opened.trade.parm().languageIndex, 2);
     QCOMPARE(opened.trade.saves, 0);
@@ -625,7 +611,7 @@ void tst_CTradeConfigWidget::languageChangeIsReported()
 void tst_CTradeConfigWidget::mouseNavigation()
 {
     Opened opened;
-    Ui_CTradeConfigWidget& ui = opened.ui();
+    Ui_CTradeConfigWidget& ui = opened->ui;
     opened->show();
     QVERIFY(ui.page_3->isVisible());
 
@@ -637,7 +623,7 @@ void tst_CTradeConfigWidget::mouseNavigation()
     QVERIFY(!ui.comboBox_system_language->isVisible());
     QVERIFY(!ui.comboBox_system_fontSize->isVisible());
 
-    clickBar(*opened.dialog, 1);
+    clickBar(*opened, 1);
     QVERIFY(ui.page_2->isVisible());
     QVERIFY(!ui.page_5->isVisible());
     QVERIFY(ui.page_6->isVisible());
@@ -649,7 +635,7 @@ void tst_CTradeConfigWidget::mouseNavigation()
     QVERIFY(!ui.page_8->isVisible());
     QVERIFY(!ui.page_9->isVisible());
 
-    clickBar(*opened.dialog, 2);
+    clickBar(*opened, 2);
     QVERIFY(ui.page_16->isVisible());
     clickEntry(ui.widget_shortcut, 1);
     QVERIFY(ui.page_10->isVisible());
@@ -659,9 +645,9 @@ void tst_CTradeConfigWidget::mouseNavigation()
     QVERIFY(ui.page_16->isVisible());
 
     // Every group comes back as it was left.
-    clickBar(*opened.dialog, 0);
+    clickBar(*opened, 0);
     QVERIFY(ui.page_5->isVisible());
-    clickBar(*opened.dialog, 1);
+    clickBar(*opened, 1);
     QVERIFY(ui.page_7->isVisible());
 }
 
@@ -669,10 +655,10 @@ void tst_CTradeConfigWidget::interfacePageIsUnreachable()
 {
     Opened opened(1);
     opened->show();
-    clickEntry(opened.ui().widget_system, 1);
-    clickEntry(opened.ui().widget_system, 2);
-    QVERIFY(opened.ui().page_4->isVisible());
-    QVERIFY(!opened.ui().page_5->isVisible());
+    clickEntry(opened->ui.widget_system, 1);
+    clickEntry(opened->ui.widget_system, 2);
+    QVERIFY(opened->ui.page_4->isVisible());
+    QVERIFY(!opened->ui.page_5->isVisible());
 }
 
 void tst_CTradeConfigWidget::setCurrentIndex()
@@ -680,28 +666,28 @@ void tst_CTradeConfigWidget::setCurrentIndex()
     Opened opened;
     for (const int index : {2, 1, 0}) {
         opened->SetCurrentIndex(index);
-        QCOMPARE(opened.ui().stackedWidget->currentIndex(), index);
+        QCOMPARE(opened->ui.stackedWidget->currentIndex(), index);
     }
-    QCOMPARE(opened.ui().stackedWidget_system->currentIndex(), 0);
+    QCOMPARE(opened->ui.stackedWidget_system->currentIndex(), 0);
 }
 
 void tst_CTradeConfigWidget::slotsAreInvokable()
 {
     Opened opened;
-    QObject* const dialog = opened.dialog.get();
+    QObject* const dialog = opened.get();
     QVERIFY(QMetaObject::invokeMethod(dialog, "SetCurrentIndex", Q_ARG(int, 2)));
-    QCOMPARE(opened.ui().stackedWidget->currentIndex(), 2);
+    QCOMPARE(opened->ui.stackedWidget->currentIndex(), 2);
 
     QVERIFY(QDir().mkpath(settingsFile() + QStringLiteral("/config")));
     const QString path = settingsFile() + QStringLiteral("/config/system_settings.ini");
-    opened.ui().spinBox_scale->setValue(125);
+    opened->ui.spinBox_scale->setValue(125);
     QVERIFY(QMetaObject::invokeMethod(dialog, "saveUISettings"));
     QCOMPARE(QSettings(path, QSettings::IniFormat).value(QStringLiteral("UI/scale")).toInt(), 125);
 
     QSettings(path, QSettings::IniFormat)
         .setValue(QStringLiteral("UI/language"), QStringLiteral("en_US"));
     QVERIFY(QMetaObject::invokeMethod(dialog, "loadLanguage"));
-    QCOMPARE(opened.ui().comboBox_system_language->currentIndex(), 2);
+    QCOMPARE(opened->ui.comboBox_system_language->currentIndex(), 2);
 
     {
         const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("否"));
@@ -710,7 +696,7 @@ void tst_CTradeConfigWidget::slotsAreInvokable()
     }
 
     QVERIFY(QMetaObject::invokeMethod(dialog, "ShowInputErrorMsg",
-                                      Q_ARG(QObject*, opened.ui().lineEdit_trade_high),
+                                      Q_ARG(QObject*, opened->ui.lineEdit_trade_high),
                                       Q_ARG(QString, QStringLiteral("a tip")), Q_ARG(int, 170)));
     QCOMPARE(opened->tipLabel->text(), QStringLiteral("a tip"));
     QCOMPARE(opened->tipLabel->width(), 170);
@@ -727,15 +713,15 @@ void tst_CTradeConfigWidget::cancelClosesTheDialog()
     const int gets = opened.trade.gets;
     const QByteArray before = opened.trade.text(&TradeParm::stockShortcuts, 0);
     opened->show();
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(5);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(5);
     opened->inputValidity.insert(QStringLiteral("anything"), false);
-    QTest::mouseClick(opened.ui().pushButton_cancle, Qt::LeftButton);
+    QTest::mouseClick(opened->ui.pushButton_cancle, Qt::LeftButton);
     QVERIFY(!opened->isVisible());
     QCOMPARE(opened.trade.gets, gets);
     QCOMPARE(opened.trade.saves, 0);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 0);
     QCOMPARE(opened.trade.text(&TradeParm::stockShortcuts, 0), before);
-    QCOMPARE(opened.ui().comboBox_trade_buyPrice->currentIndex(), 5);
+    QCOMPARE(opened->ui.comboBox_trade_buyPrice->currentIndex(), 5);
 }
 
 void tst_CTradeConfigWidget::cancelClosesTheParent()
@@ -758,9 +744,9 @@ void tst_CTradeConfigWidget::confirmSavesOnceAndCloses()
     Opened opened;
     const QByteArray reserved = opened.trade.reservedBytes();
     opened->show();
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(5);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(5);
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_high"), true);
-    QTest::mouseClick(opened.ui().pushButton_confirm, Qt::LeftButton);
+    QTest::mouseClick(opened->ui.pushButton_confirm, Qt::LeftButton);
     QCOMPARE(opened.trade.saves, 1);
     QCOMPARE(opened.trade.gets, 3);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 5);
@@ -784,9 +770,9 @@ void tst_CTradeConfigWidget::confirmClosesTheParent()
 void tst_CTradeConfigWidget::closingDeletesNothing()
 {
     Opened opened;
-    const QPointer<QWidget> alive(opened.dialog.get());
+    const QPointer<QWidget> alive(opened.get());
     opened->show();
-    opened.ui().pushButton_confirm->click();
+    opened.confirm();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(alive);
 }
@@ -796,8 +782,8 @@ void tst_CTradeConfigWidget::canBeShownAndConfirmedAgain()
     Opened opened;
     for (int round = 1; round <= 3; ++round) {
         opened->show();
-        opened.ui().comboBox_trade_buyCount->setCurrentIndex(round);
-        opened.ui().pushButton_confirm->click();
+        opened->ui.comboBox_trade_buyCount->setCurrentIndex(round);
+        opened.confirm();
         QVERIFY(!opened->isVisible());
         QCOMPARE(opened.trade.saves, round);
         QCOMPARE(opened.trade.parm().defaultBuyQty, round);
@@ -808,7 +794,7 @@ void tst_CTradeConfigWidget::refusedSave()
 {
     Opened opened;
     opened->show();
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(5);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(5);
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_high"), true);
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
     const QByteArray before(reinterpret_cast<const char*>(&opened.trade.parm()), 128);
@@ -825,20 +811,20 @@ void tst_CTradeConfigWidget::refusedSave()
             owner = box->parentWidget();
             box->button(QMessageBox::Ok)->click();
         });
-        opened.ui().pushButton_confirm->click();
+        opened.confirm();
         QCOMPARE(answer.title(), QStringLiteral("提示"));
         QCOMPARE(answer.text(), refusal);
         QCOMPARE(icon, QMessageBox::Information);
         QCOMPARE(buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-        QCOMPARE(owner, opened.dialog.get());
+        QCOMPARE(owner, opened.get());
         QVERIFY(opened->isVisible());
         QCOMPARE(opened.trade.gets, gets);
         QCOMPARE(opened.trade.saves, 0);
         QCOMPARE(QByteArray(reinterpret_cast<const char*>(&opened.trade.parm()), 128), before);
-        QCOMPARE(opened.ui().comboBox_trade_buyPrice->currentIndex(), 5);
+        QCOMPARE(opened->ui.comboBox_trade_buyPrice->currentIndex(), 5);
     }
     opened->inputValidity[QStringLiteral("lineEdit_trade_low")] = true;
-    opened.ui().pushButton_confirm->click();
+    opened.confirm();
     QCOMPARE(opened.trade.saves, 1);
     QVERIFY(!opened->isVisible());
 }
@@ -887,7 +873,7 @@ void tst_CTradeConfigWidget::restartComesBeforeValidation()
     const QString path = settingsFile() + QStringLiteral("/config/system_settings.ini");
     Opened opened;
     opened->show();
-    opened.ui().spinBox_scale->setValue(145);
+    opened->ui.spinBox_scale->setValue(145);
     QVERIFY(!QFile::exists(path));
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
 
@@ -905,7 +891,7 @@ void tst_CTradeConfigWidget::restartComesBeforeValidation()
                 button->click();
         }
     });
-    opened.ui().pushButton_confirm->click();
+    opened.confirm();
     QCOMPARE(restart.text(), restartQuestion);
     QVERIFY(savedBeforeTheQuestion);
     QVERIFY(refused);
@@ -918,10 +904,10 @@ void tst_CTradeConfigWidget::noToTheRestartSavesAndCloses()
 {
     Opened opened;
     opened->show();
-    opened.ui().spinBox_scale->setValue(145);
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(4);
+    opened->ui.spinBox_scale->setValue(145);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(4);
     const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("否"));
-    opened.ui().pushButton_confirm->click();
+    opened.confirm();
     QCOMPARE(restart.text(), restartQuestion);
     QCOMPARE(opened.trade.saves, 1);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 4);
@@ -933,12 +919,11 @@ void tst_CTradeConfigWidget::yesToTheRestartSavesAndQuits()
 {
     Opened opened;
     opened->show();
-    opened.ui().spinBox_scale->setValue(145);
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(4);
+    opened->ui.spinBox_scale->setValue(145);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(4);
     const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("是"));
-    QTimer::singleShot(0, opened.ui().pushButton_confirm,
-                       [&] { opened.ui().pushButton_confirm->click(); });
-    QTimer::singleShot(20000, opened.dialog.get(), [] { QCoreApplication::exit(99); });
+    QTimer::singleShot(0, opened->ui.pushButton_confirm, [&] { opened.confirm(); });
+    QTimer::singleShot(20000, opened.get(), [] { QCoreApplication::exit(99); });
     QCOMPARE(QCoreApplication::exec(), 0);
     QCOMPARE(opened.trade.saves, 1);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 4);
@@ -950,14 +935,13 @@ void tst_CTradeConfigWidget::yesToTheRestartOfAnInvalidInputWritesNothing()
 {
     Opened opened;
     opened->show();
-    opened.ui().spinBox_scale->setValue(145);
-    opened.ui().comboBox_trade_buyPrice->setCurrentIndex(4);
+    opened->ui.spinBox_scale->setValue(145);
+    opened->ui.comboBox_trade_buyPrice->setCurrentIndex(4);
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
     const int gets = opened.trade.gets;
     const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("是"));
-    QTimer::singleShot(0, opened.ui().pushButton_confirm,
-                       [&] { opened.ui().pushButton_confirm->click(); });
-    QTimer::singleShot(20000, opened.dialog.get(), [] { QCoreApplication::exit(99); });
+    QTimer::singleShot(0, opened->ui.pushButton_confirm, [&] { opened.confirm(); });
+    QTimer::singleShot(20000, opened.get(), [] { QCoreApplication::exit(99); });
     QCOMPARE(QCoreApplication::exec(), 0);
     QCOMPARE(opened.trade.saves, 0);
     QCOMPARE(opened.trade.gets, gets);
@@ -968,10 +952,10 @@ void tst_CTradeConfigWidget::yesToTheRestartOfAnInvalidInputWritesNothing()
 void tst_CTradeConfigWidget::restartIsAskedAgain()
 {
     Opened opened;
-    opened.ui().spinBox_scale->setValue(145);
+    opened->ui.spinBox_scale->setValue(145);
     for (int press = 0; press < 2; ++press) {
         const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("否"));
-        opened.ui().pushButton_confirm->click();
+        opened.confirm();
         QCOMPARE(restart.text(), restartQuestion);
     }
     QCOMPARE(opened.trade.saves, 2);
@@ -980,7 +964,7 @@ void tst_CTradeConfigWidget::restartIsAskedAgain()
 void tst_CTradeConfigWidget::unchangedScaleAsksNothing()
 {
     Opened opened;
-    opened.ui().pushButton_confirm->click(); // would block on a question
+    opened.confirm(); // would block on a question
     QCOMPARE(opened.trade.saves, 1);
     QVERIFY(!QFile::exists(settingsFile() + QStringLiteral("/system_settings.ini")));
 }

@@ -1,7 +1,7 @@
-#include "support/FakeTrade.h"
+#include "support/BareForm.h"
 #include "support/MarkingTranslator.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/dialog/ChoiceLists.h"
 
 namespace {
@@ -45,18 +45,6 @@ QStringList itemsOf(const QComboBox& combo)
     return items;
 }
 
-struct BareForm {
-    QWidget widget;
-    Ui_CTradeConfigWidget ui;
-
-    BareForm() { ui.setupUi(&widget); }
-
-    QComboBox& combo(const char* name) const
-    {
-        return *widget.findChild<QComboBox*>(QString::fromLatin1(name));
-    }
-};
-
 } // namespace
 
 class tst_ChoiceLists : public QObject {
@@ -89,7 +77,7 @@ void tst_ChoiceLists::itemsInOrder()
     QFETCH(int, row);
     BareForm form;
     ChoiceLists::fill(form.ui);
-    const QComboBox& combo = form.combo(expected[row].combo);
+    const QComboBox& combo = form.find<QComboBox>(expected[row].combo);
     QCOMPARE(itemsOf(combo), split(expected[row].items));
     QCOMPARE(combo.currentIndex(), 0);
     QCOMPARE(combo.currentText(), split(expected[row].items).first());
@@ -109,7 +97,7 @@ void tst_ChoiceLists::translatedItems()
     QStringList texts;
     for (const QString& item : split(expected[row].items))
         texts << (plain.contains(item) ? item : QStringLiteral("T:") + item);
-    QCOMPARE(itemsOf(form.combo(expected[row].combo)), texts);
+    QCOMPARE(itemsOf(form.find<QComboBox>(expected[row].combo)), texts);
 }
 
 void tst_ChoiceLists::onlyTheSeventeen()
@@ -139,11 +127,8 @@ void tst_ChoiceLists::secondFillAppends()
 void tst_ChoiceLists::dialogFillsOnce()
 {
     QFETCH(int, row);
-    FakeTrade trade;
-    const CTradeConfigWidget dialog(&trade);
-    const auto* const combo
-        = dialog.findChild<QComboBox*>(QString::fromLatin1(expected[row].combo));
-    QCOMPARE(itemsOf(*combo), split(expected[row].items));
+    const TestDialog dialog;
+    QCOMPARE(itemsOf(dialog.find<QComboBox>(expected[row].combo)), split(expected[row].items));
 }
 
 TRADECONFIG_TEST_MAIN(tst_ChoiceLists)

@@ -1,13 +1,11 @@
-#include "support/FakeTrade.h"
 #include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
 #include "support/Shorten.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <array>
-#include <memory>
 #include <random>
 
 // A user who does thousands of things to the dialog, beside a model that knows what each of them
@@ -378,9 +376,8 @@ Record recordOf(FakeTrade& trade)
 class Run {
 public:
     explicit Run(quint32 seed)
+        : m_dialog([this, seed](FakeTrade& trade) { makeRecord(trade, seed); })
     {
-        makeRecord(seed);
-        m_dialog = std::make_unique<CTradeConfigWidget>(&m_trade);
         show();
     }
 
@@ -394,7 +391,7 @@ public:
     QString compare();
 
 private:
-    void makeRecord(quint32 seed);
+    void makeRecord(FakeTrade& trade, quint32 seed);
     void show();
     void perform(const Action& action);
     void perform(Kind kind, std::size_t a, int b, int c);
@@ -405,7 +402,7 @@ private:
 
     template <typename Widget = QWidget> Widget& find(const char* name) const
     {
-        return *m_dialog->findChild<Widget*>(QString::fromLatin1(name));
+        return m_dialog.find<Widget>(name);
     }
     QLineEdit& edit(std::size_t group, int field) const
     {
@@ -424,7 +421,6 @@ private:
         m_dialog->SetCurrentIndex(1);
         m_dialog->ui.stackedWidget_trade->setCurrentIndex(groupNames[group].page);
     }
-    void leave() const { m_dialog->ui.pushButton_confirm->setFocus(); }
     static void type(QWidget& field, const char* keys)
     {
         field.setFocus();
@@ -433,18 +429,17 @@ private:
         QTest::keyClicks(&field, QString::fromLatin1(keys));
     }
 
-    FakeTrade m_trade;
     Model m_model;
     QByteArray m_reserved;
-    std::unique_ptr<CTradeConfigWidget> m_dialog;
+    TestDialog m_dialog;
 };
 
-void Run::makeRecord(quint32 seed)
+void Run::makeRecord(FakeTrade& trade, quint32 seed)
 {
     std::mt19937 random(seed);
     const auto pick = [&random](int count) { return int(random() % quint32(count)); };
     const int amounts[] = {0, 50, 99, 100, 101, 200, 300, 500, 10000000};
-    TradeParm& parm = m_trade.parm();
+    TradeParm& parm = trade.parm();
 
     std::int32_t* const values[2][FieldCount]
         = {{&parm.splitBaseQty, &parm.splitMaxQty, &parm.splitMinQty, &parm.splitStepQty},
@@ -485,7 +480,6 @@ void Run::makeRecord(quint32 seed)
     parm.lockMinutes = pick(1001);
     m_model.lockTime = QString::number(parm.lockMinutes);
 
-    m_trade.setDistinctShortcuts();
     for (int entry = 0; entry < 13; ++entry) {
         const auto row = std::size_t(rowOfEntry[entry]);
         const QChar letter = QLatin1Char(char('A' + entry));
@@ -493,11 +487,11 @@ void Run::makeRecord(quint32 seed)
             = QStringLiteral("Ctrl+") + letter;
         // Keys that the user presses as well, so that some are pressed where they are already.
         const QByteArray key = chords[row + 3].text;
-        m_trade.setText(&TradeParm::creditShortcuts, entry, key);
+        trade.setText(&TradeParm::creditShortcuts, entry, key);
         m_model.tables[1].cells[row] = m_model.tables[1].stored[row] = QString::fromUtf8(key);
     }
-    m_model.record = recordOf(m_trade);
-    m_reserved = m_trade.reservedBytes();
+    m_model.record = recordOf(trade);
+    m_reserved = trade.reservedBytes();
 }
 
 void Run::show()
@@ -507,7 +501,7 @@ void Run::show()
     m_dialog->show();
     QCoreApplication::processEvents();
     QApplication::setActiveWindow(m_dialog.get());
-    leave();
+    m_dialog.leaveField();
     if (!m_dialog->ui.pushButton_confirm->hasFocus())
         qFatal("the dialog did not become active");
 }
@@ -523,7 +517,7 @@ void Run::typeQuantity(std::size_t group, int field, const Typed& typed)
         return;
     showPage(group);
     type(edit(group, field), typed.keys);
-    leave();
+    m_dialog.leaveField();
     m_model.groups[group].texts[std::size_t(field)] = QString::fromLatin1(typed.text);
     m_model.groups[group].leave(field);
 }
@@ -535,7 +529,7 @@ void Run::editRise(std::size_t price, const Typed& typed, bool withReturn)
     type(riseCombo(price), typed.keys);
     if (withReturn)
         QTest::keyClick(&riseCombo(price), Qt::Key_Return);
-    leave();
+    m_dialog.leaveField();
     RiseModel& rise = m_model.rises[price];
     rise.items[std::size_t(rise.index)] = QString::fromLatin1(typed.text);
 }
@@ -543,14 +537,14 @@ void Run::editRise(std::size_t price, const Typed& typed, bool withReturn)
 void Run::confirm()
 {
     if (m_model.valid()) {
-        m_dialog->ui.pushButton_confirm->click();
+        m_dialog.confirm();
         m_model.record = m_model.toRecord();
         ++m_model.saves;
         if (m_dialog->isVisible())
             QTest::qFail("a confirmed dialog stays open", __FILE__, __LINE__);
     } else {
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
-        m_dialog->ui.pushButton_confirm->click();
+        m_dialog.confirm();
         if (!m_dialog->isVisible())
             QTest::qFail("a refused dialog closes", __FILE__, __LINE__);
     }
@@ -574,7 +568,7 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
         showPage(a);
         edit(a, b).setFocus();
         edit(a, c).setFocus();
-        leave();
+        m_dialog.leaveField();
         m_model.groups[a].leave(b);
         m_model.groups[a].leave(c);
         break;
@@ -603,7 +597,7 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
     case Kind::LockTime:
         m_dialog->SetCurrentIndex(0);
         type(*m_dialog->ui.lineEdit_system_lockTime, minutes[a].keys);
-        leave();
+        m_dialog.leaveField();
         m_model.lockTime = QString::fromLatin1(minutes[a].text);
         break;
     case Kind::Rise:
@@ -721,9 +715,9 @@ QString Run::compare()
          QStringLiteral("lock time"));
     if (m_dialog->inputValidity != entries)
         wrong << QStringLiteral("the validity entries differ");
-    same(m_trade.saves, m_model.saves, QStringLiteral("saves"));
-    same(recordOf(m_trade).join(u'|'), m_model.record.join(u'|'), QStringLiteral("record"));
-    if (m_trade.reservedBytes() != m_reserved)
+    same(m_dialog.trade.saves, m_model.saves, QStringLiteral("saves"));
+    same(recordOf(m_dialog.trade).join(u'|'), m_model.record.join(u'|'), QStringLiteral("record"));
+    if (m_dialog.trade.reservedBytes() != m_reserved)
         wrong << QStringLiteral("the reserved bytes changed");
     return wrong.join(QStringLiteral("; "));
 }

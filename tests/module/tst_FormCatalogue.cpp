@@ -1,20 +1,12 @@
+#include "support/BareForm.h"
 #include "support/MarkingTranslator.h"
 #include "support/TestMain.h"
-
-#include "ui_CTradeConfigWidget.h"
 
 #include <QSet>
 
 Q_DECLARE_METATYPE(QMargins)
 
 namespace {
-
-struct BareForm {
-    QWidget widget;
-    Ui_CTradeConfigWidget ui;
-
-    BareForm() { ui.setupUi(&widget); }
-};
 
 struct Control {
     const char* name;

@@ -1,9 +1,8 @@
+#include "support/BareForm.h"
 #include "support/FakeTrade.h"
 #include "support/TestMain.h"
 #include "tradeConfig/dialog/ChoiceLists.h"
 #include "tradeConfig/dialog/ParmBinding.h"
-
-#include "ui_CTradeConfigWidget.h"
 
 using ParmBinding::Section;
 
@@ -48,18 +47,16 @@ void tst_ParmBinding::sections()
     QFETCH(Section, section);
     QFETCH(QStringList, controls);
 
-    QWidget widget;
-    Ui_CTradeConfigWidget ui;
-    ui.setupUi(&widget);
-    ChoiceLists::fill(ui);
+    const BareForm form;
+    ChoiceLists::fill(form.ui);
     QStringList changed;
     const auto note = [&changed](const QObject* control) { changed << control->objectName(); };
-    for (auto* const combo : widget.findChildren<QComboBox*>())
+    for (auto* const combo : form.widget.findChildren<QComboBox*>())
         connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [=] { note(combo); });
-    for (auto* const box : widget.findChildren<QCheckBox*>())
+    for (auto* const box : form.widget.findChildren<QCheckBox*>())
         connect(box, &QCheckBox::toggled, this, [=] { note(box); });
-    for (auto* const edit : widget.findChildren<QLineEdit*>())
+    for (auto* const edit : form.widget.findChildren<QLineEdit*>())
         connect(edit, &QLineEdit::textChanged, this, [=] { note(edit); });
 
     // A value in every field that the form does not show by itself.
@@ -78,7 +75,7 @@ void tst_ParmBinding::sections()
                              &TradeParm::splitStrategy,     &TradeParm::starSplitStrategy,
                              &TradeParm::orderSuccessDialog})
         parm.*field = 1;
-    ParmBinding::load(section, parm, ui);
+    ParmBinding::load(section, parm, form.ui);
     QCOMPARE(changed, controls);
 }
 

@@ -1,7 +1,6 @@
-#include "support/FakeTrade.h"
-#include "support/ModalAnswer.h"
+#include "support/BareForm.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <QMap>
@@ -159,16 +158,18 @@ QStringList differences(const Snapshot& before, const Snapshot& after)
     return names;
 }
 
-// A record that comes back as it was: no preset interferes, every value has its control.
-void fillPlain(FakeTrade& trade)
-{
-    trade.setDistinctShortcuts();
-    trade.setDefaultPage("ptmr");
-    trade.parm().starSplitStrategy = 3;
-    trade.parm().uiPageMode = 1;
-}
-
-void confirm(CTradeConfigWidget& dialog) { dialog.ui.pushButton_confirm->click(); }
+// On a record that comes back as it was: no preset interferes, every value has its control.
+struct PlainDialog : TestDialog {
+    explicit PlainDialog(const std::function<void(FakeTrade& trade)>& prepare = [](FakeTrade&) {})
+        : TestDialog([&prepare](FakeTrade& core) {
+            core.setDefaultPage("ptmr");
+            core.parm().starSplitStrategy = 3;
+            core.parm().uiPageMode = 1;
+            prepare(core);
+        })
+    {
+    }
+};
 
 QString latin(const char* text) { return QString::fromLatin1(text); }
 
@@ -260,17 +261,14 @@ void tst_RecordRoundTrip::everyMeaning()
     QFETCH(QString, shownAs);
     QFETCH(int, savedAs);
     const Field& field = fields[row];
-    FakeTrade trade;
-    fillPlain(trade);
-    trade.parm().*field.member = stored;
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(trade.parm().*field.member, stored);
-    QCOMPARE(shown(dialog).value(latin(field.control)), shownAs);
+    PlainDialog dialog([&](FakeTrade& trade) { trade.parm().*field.member = stored; });
+    QCOMPARE(dialog.trade.parm().*field.member, stored);
+    QCOMPARE(shown(*dialog).value(latin(field.control)), shownAs);
 
     // What is not shown must come from the control, not from what was left in the record.
-    trade.parm().*field.member = 4711;
-    confirm(dialog);
-    QCOMPARE(trade.parm().*field.member, savedAs);
+    dialog.trade.parm().*field.member = 4711;
+    dialog.confirm();
+    QCOMPARE(dialog.trade.parm().*field.member, savedAs);
 }
 
 void tst_RecordRoundTrip::editedNumbers_data()
@@ -296,14 +294,11 @@ void tst_RecordRoundTrip::editedNumbers()
     for (const Field& field : fields) {
         if (field.kind != Kind::Number)
             continue;
-        FakeTrade trade;
-        fillPlain(trade);
-        trade.parm().*field.member = 55;
-        CTradeConfigWidget dialog(&trade);
-        dialog.findChild<QLineEdit*>(latin(field.control))->setText(text);
-        confirm(dialog);
-        QVERIFY2(trade.parm().*field.member == saved, field.name);
-        QCOMPARE(trade.saves, 1);
+        PlainDialog dialog([&](FakeTrade& trade) { trade.parm().*field.member = 55; });
+        dialog->findChild<QLineEdit*>(latin(field.control))->setText(text);
+        dialog.confirm();
+        QVERIFY2(dialog.trade.parm().*field.member == saved, field.name);
+        QCOMPARE(dialog.trade.saves, 1);
     }
 }
 
@@ -320,12 +315,10 @@ void tst_RecordRoundTrip::wordByWord()
 {
     QFETCH(int, offset);
     QFETCH(QString, control);
-    FakeTrade trade;
-    fillPlain(trade);
-    const CTradeConfigWidget before(&trade);
-    setWord(trade, offset, wordAt(trade, offset) + 1);
-    const CTradeConfigWidget after(&trade);
-    QCOMPARE(differences(shown(before), shown(after)),
+    PlainDialog before;
+    setWord(before.trade, offset, wordAt(before.trade, offset) + 1);
+    const CTradeConfigWidget after(&before.trade);
+    QCOMPARE(differences(shown(*before), shown(after)),
              control.isEmpty() ? QStringList() : QStringList(control));
 }
 
@@ -346,15 +339,13 @@ void tst_RecordRoundTrip::controlByControl_data()
 void tst_RecordRoundTrip::controlByControl()
 {
     QFETCH(int, offset);
-    FakeTrade trade;
-    fillPlain(trade);
-    CTradeConfigWidget dialog(&trade);
+    PlainDialog dialog;
     QMap<int, std::int32_t> before;
     for (const Word& word : words)
-        before.insert(word.offset, wordAt(trade, word.offset));
-    const QByteArray page = trade.defaultPage();
+        before.insert(word.offset, wordAt(dialog.trade, word.offset));
+    const QByteArray page = dialog.trade.defaultPage();
 
-    QWidget* const control = dialog.findChild<QWidget*>(latin(QTest::currentDataTag()));
+    QWidget* const control = dialog->findChild<QWidget*>(latin(QTest::currentDataTag()));
     QVERIFY(control);
     if (auto* const combo = qobject_cast<QComboBox*>(control)) {
         const QSignalBlocker quiet(combo); // presets and questions are not meant here
@@ -367,21 +358,23 @@ void tst_RecordRoundTrip::controlByControl()
         const QSignalBlocker quiet(control);
         qobject_cast<QSpinBox*>(control)->setValue(200);
     }
-    confirm(dialog);
+    dialog.confirm();
 
     QStringList changed;
     for (const Word& word : words) {
-        if (wordAt(trade, word.offset) != before.value(word.offset))
+        if (wordAt(dialog.trade, word.offset) != before.value(word.offset))
             changed << QString::number(word.offset);
     }
     QCOMPARE(changed, offset < 0 ? QStringList() : QStringList(QString::number(offset)));
-    const bool pageCombo = control == dialog.ui.comboBox_system_defaultView;
-    QCOMPARE(trade.defaultPage(), pageCombo ? QByteArray("ptmc") : page);
-    QCOMPARE(trade.saves, 1);
+    const bool pageCombo = control == dialog->ui.comboBox_system_defaultView;
+    QCOMPARE(dialog.trade.defaultPage(), pageCombo ? QByteArray("ptmc") : page);
+    QCOMPARE(dialog.trade.saves, 1);
     for (int entry = 0; entry < 13; ++entry) {
         const char letter = char('A' + entry);
-        QCOMPARE(trade.text(&TradeParm::stockShortcuts, entry), QByteArray("Ctrl+") + letter);
-        QCOMPARE(trade.text(&TradeParm::creditShortcuts, entry), QByteArray("Alt+") + letter);
+        QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, entry),
+                 QByteArray("Ctrl+") + letter);
+        QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, entry),
+                 QByteArray("Alt+") + letter);
     }
 }
 
@@ -392,9 +385,7 @@ void tst_RecordRoundTrip::everyInputIsCovered()
                           latin("spinBox_scale")};
     for (const Word& word : words)
         covered << latin(word.shownBy);
-    QWidget widget;
-    Ui_CTradeConfigWidget form;
-    form.setupUi(&widget);
+    const BareForm form;
     QStringList uncovered;
     int inputs = 0;
     const auto look = [&](const auto& controls) {
@@ -406,10 +397,10 @@ void tst_RecordRoundTrip::everyInputIsCovered()
                 uncovered << control->objectName();
         }
     };
-    look(widget.findChildren<QComboBox*>());
-    look(widget.findChildren<QAbstractSpinBox*>());
-    look(widget.findChildren<QCheckBox*>());
-    look(widget.findChildren<QLineEdit*>());
+    look(form.widget.findChildren<QComboBox*>());
+    look(form.widget.findChildren<QAbstractSpinBox*>());
+    look(form.widget.findChildren<QCheckBox*>());
+    look(form.widget.findChildren<QLineEdit*>());
     QCOMPARE(uncovered, QStringList());
     QCOMPARE(inputs, 35);
 }
@@ -441,14 +432,11 @@ void tst_RecordRoundTrip::pageCodes()
     QFETCH(QByteArray, code);
     QFETCH(int, index);
     QFETCH(QByteArray, saved);
-    FakeTrade trade;
-    fillPlain(trade);
-    trade.setDefaultPage(code);
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(dialog.ui.comboBox_system_defaultView->currentIndex(), index);
-    QCOMPARE(trade.defaultPage(), code);
-    confirm(dialog);
-    QCOMPARE(trade.defaultPage(), saved);
+    PlainDialog dialog([&](FakeTrade& trade) { trade.setDefaultPage(code); });
+    QCOMPARE(dialog->ui.comboBox_system_defaultView->currentIndex(), index);
+    QCOMPARE(dialog.trade.defaultPage(), code);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.defaultPage(), saved);
 }
 
 void tst_RecordRoundTrip::pageChosen_data()
@@ -463,14 +451,11 @@ void tst_RecordRoundTrip::pageChosen_data()
 void tst_RecordRoundTrip::pageChosen()
 {
     QFETCH(QByteArray, saved);
-    FakeTrade trade;
-    fillPlain(trade);
-    trade.setDefaultPage("zjgp");
-    CTradeConfigWidget dialog(&trade);
-    dialog.ui.comboBox_system_defaultView->setCurrentIndex(
+    PlainDialog dialog([](FakeTrade& trade) { trade.setDefaultPage("zjgp"); });
+    dialog->ui.comboBox_system_defaultView->setCurrentIndex(
         QByteArray(QTest::currentDataTag()).toInt());
-    confirm(dialog);
-    QCOMPARE(trade.defaultPage(), saved);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.defaultPage(), saved);
 }
 
 void tst_RecordRoundTrip::starPreset_data()
@@ -492,21 +477,20 @@ void tst_RecordRoundTrip::starPreset()
     QFETCH(int, strategy);
     QFETCH(int, base);
     QFETCH(QString, shownBase);
-    FakeTrade trade;
-    fillPlain(trade);
-    TradeParm& parm = trade.parm();
-    parm.starSplitStrategy = strategy;
-    parm.starSplitBaseQty = base;
-    parm.starSplitMaxQty = 777;
-    parm.starSplitMinQty = 666;
-    parm.starSplitStepQty = 555;
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(dialog.ui.lineEdit_trade_kc_baseCount->text(), shownBase);
-    QCOMPARE(dialog.ui.lineEdit_trade_kc_high->text(), QStringLiteral("777"));
-    QCOMPARE(dialog.ui.lineEdit_trade_kc_low->text(), QStringLiteral("666"));
-    QCOMPARE(dialog.ui.lineEdit_trade_kc_desc->text(), QStringLiteral("555"));
+    PlainDialog dialog([&](FakeTrade& trade) {
+        trade.parm().starSplitStrategy = strategy;
+        trade.parm().starSplitBaseQty = base;
+        trade.parm().starSplitMaxQty = 777;
+        trade.parm().starSplitMinQty = 666;
+        trade.parm().starSplitStepQty = 555;
+    });
+    QCOMPARE(dialog->ui.lineEdit_trade_kc_baseCount->text(), shownBase);
+    QCOMPARE(dialog->ui.lineEdit_trade_kc_high->text(), QStringLiteral("777"));
+    QCOMPARE(dialog->ui.lineEdit_trade_kc_low->text(), QStringLiteral("666"));
+    QCOMPARE(dialog->ui.lineEdit_trade_kc_desc->text(), QStringLiteral("555"));
+    const TradeParm& parm = dialog.trade.parm();
     QCOMPARE(parm.starSplitBaseQty, base);
-    confirm(dialog);
+    dialog.confirm();
     QCOMPARE(parm.starSplitBaseQty, shownBase.toInt());
     QCOMPARE(parm.starSplitMaxQty, 777);
     QCOMPARE(parm.starSplitMinQty, 666);
@@ -530,34 +514,32 @@ void tst_RecordRoundTrip::strategySlotsRunWhileLoading()
         {9, 9, true, true, false, false}, // unknown: the stock rows stay, the STAR rows go
     };
     for (const Row& row : rows) {
-        FakeTrade trade;
-        fillPlain(trade);
-        trade.parm().splitStrategy = row.stock;
-        trade.parm().starSplitStrategy = row.star;
-        const CTradeConfigWidget dialog(&trade);
-        QCOMPARE(!dialog.ui.lineEdit_trade_low->isHidden(), row.stockLow);
-        QCOMPARE(!dialog.ui.label_trade_low->isHidden(), row.stockLow);
-        QCOMPARE(!dialog.ui.lineEdit_trade_desc->isHidden(), row.stockDesc);
-        QCOMPARE(!dialog.ui.label_trade_desc->isHidden(), row.stockDesc);
-        QCOMPARE(!dialog.ui.lineEdit_trade_kc_low->isHidden(), row.starLow);
-        QCOMPARE(!dialog.ui.label_trade_kc_low->isHidden(), row.starLow);
-        QCOMPARE(!dialog.ui.lineEdit_trade_kc_desc->isHidden(), row.starDesc);
-        QCOMPARE(!dialog.ui.label_trade_kc_desc->isHidden(), row.starDesc);
+        const PlainDialog dialog([&](FakeTrade& trade) {
+            trade.parm().splitStrategy = row.stock;
+            trade.parm().starSplitStrategy = row.star;
+        });
+        QCOMPARE(!dialog->ui.lineEdit_trade_low->isHidden(), row.stockLow);
+        QCOMPARE(!dialog->ui.label_trade_low->isHidden(), row.stockLow);
+        QCOMPARE(!dialog->ui.lineEdit_trade_desc->isHidden(), row.stockDesc);
+        QCOMPARE(!dialog->ui.label_trade_desc->isHidden(), row.stockDesc);
+        QCOMPARE(!dialog->ui.lineEdit_trade_kc_low->isHidden(), row.starLow);
+        QCOMPARE(!dialog->ui.label_trade_kc_low->isHidden(), row.starLow);
+        QCOMPARE(!dialog->ui.lineEdit_trade_kc_desc->isHidden(), row.starDesc);
+        QCOMPARE(!dialog->ui.label_trade_kc_desc->isHidden(), row.starDesc);
     }
     // The same for the boxes: unticked is what they already were.
     for (const int flag : {0, 1, 2}) {
-        FakeTrade trade;
-        fillPlain(trade);
-        trade.parm().splitEnabled = flag;
-        trade.parm().starSplitEnabled = flag;
-        const CTradeConfigWidget dialog(&trade);
+        const PlainDialog dialog([&](FakeTrade& trade) {
+            trade.parm().splitEnabled = flag;
+            trade.parm().starSplitEnabled = flag;
+        });
         for (const QWidget* const input : std::initializer_list<QWidget*>{
-                 dialog.ui.lineEdit_trade_baseCount, dialog.ui.comboBox_trade_split,
-                 dialog.ui.lineEdit_trade_high, dialog.ui.lineEdit_trade_low,
-                 dialog.ui.lineEdit_trade_desc, dialog.ui.lineEdit_trade_kc_baseCount,
-                 dialog.ui.comboBox_trade_kc_split, dialog.ui.lineEdit_trade_kc_high,
-                 dialog.ui.lineEdit_trade_kc_low, dialog.ui.lineEdit_trade_kc_desc})
-            QCOMPARE(input->isEnabledTo(&dialog), flag == 1);
+                 dialog->ui.lineEdit_trade_baseCount, dialog->ui.comboBox_trade_split,
+                 dialog->ui.lineEdit_trade_high, dialog->ui.lineEdit_trade_low,
+                 dialog->ui.lineEdit_trade_desc, dialog->ui.lineEdit_trade_kc_baseCount,
+                 dialog->ui.comboBox_trade_kc_split, dialog->ui.lineEdit_trade_kc_high,
+                 dialog->ui.lineEdit_trade_kc_low, dialog->ui.lineEdit_trade_kc_desc})
+            QCOMPARE(input->isEnabledTo(dialog.get()), flag == 1);
     }
 }
 
@@ -586,36 +568,34 @@ void tst_RecordRoundTrip::risePriceItems()
         = {{&TradeParm::starBuyRiseChoices, "comboBox_trade_kc_buyRise"},
            {&TradeParm::starSellRiseChoices, "comboBox_trade_kc_sellRise"}};
     for (const auto& [choices, name] : sides) {
-        FakeTrade trade;
-        fillPlain(trade);
-        for (int item = 0; item < 3; ++item)
-            (trade.parm().*choices)[item] = percentages.at(item);
-        CTradeConfigWidget dialog(&trade);
-        const auto* const combo = dialog.findChild<QComboBox*>(latin(name));
+        PlainDialog dialog([&](FakeTrade& trade) {
+            for (int item = 0; item < 3; ++item)
+                (trade.parm().*choices)[item] = percentages.at(item);
+        });
+        const auto* const combo = dialog->findChild<QComboBox*>(latin(name));
         QCOMPARE(combo->count(), 3);
         for (int item = 0; item < 3; ++item) {
             QCOMPARE(combo->itemText(item), items.at(item));
-            (trade.parm().*choices)[item] = 4711;
+            (dialog.trade.parm().*choices)[item] = 4711;
         }
-        confirm(dialog);
+        dialog.confirm();
         for (int item = 0; item < 3; ++item)
-            QCOMPARE((trade.parm().*choices)[item], percentages.at(item));
+            QCOMPARE((dialog.trade.parm().*choices)[item], percentages.at(item));
     }
 }
 
 void tst_RecordRoundTrip::thirdPercentageChosen()
 {
-    FakeTrade trade;
-    fillPlain(trade);
-    for (int item = 0; item < 3; ++item)
-        trade.parm().starBuyRiseChoices[item] = item + 1;
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(dialog.ui.comboBox_trade_kc_buyRise->currentText(), QStringLiteral("1"));
-    dialog.ui.comboBox_trade_kc_buyRise->setCurrentIndex(2);
-    confirm(dialog);
-    QCOMPARE(trade.parm().starBuyRiseIndex, 2);
-    QCOMPARE(trade.parm().starSellRiseIndex, 0);
-    QCOMPARE(trade.parm().starBuyRiseChoices[2], 3);
+    PlainDialog dialog([&](FakeTrade& trade) {
+        for (int item = 0; item < 3; ++item)
+            trade.parm().starBuyRiseChoices[item] = item + 1;
+    });
+    QCOMPARE(dialog->ui.comboBox_trade_kc_buyRise->currentText(), QStringLiteral("1"));
+    dialog->ui.comboBox_trade_kc_buyRise->setCurrentIndex(2);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.parm().starBuyRiseIndex, 2);
+    QCOMPARE(dialog.trade.parm().starSellRiseIndex, 0);
+    QCOMPARE(dialog.trade.parm().starBuyRiseChoices[2], 3);
 }
 
 void tst_RecordRoundTrip::editedRisePrices_data()
@@ -632,24 +612,23 @@ void tst_RecordRoundTrip::editedRisePrices()
 {
     QFETCH(QString, text);
     QFETCH(int, saved);
-    FakeTrade trade;
-    fillPlain(trade);
-    for (int item = 0; item < 3; ++item) {
-        trade.parm().starBuyRiseChoices[item] = 10 + item;
-        trade.parm().starSellRiseChoices[item] = 20 + item;
-    }
-    trade.parm().starBuyRiseIndex = 1;
-    CTradeConfigWidget dialog(&trade);
-    dialog.ui.comboBox_trade_kc_buyRise->setItemText(0, text);
-    dialog.ui.comboBox_trade_kc_sellRise->setItemText(2, text);
-    confirm(dialog);
-    QCOMPARE(trade.parm().starBuyRiseChoices[0], saved);
-    QCOMPARE(trade.parm().starBuyRiseChoices[1], 11);
-    QCOMPARE(trade.parm().starBuyRiseChoices[2], 12);
-    QCOMPARE(trade.parm().starSellRiseChoices[0], 20);
-    QCOMPARE(trade.parm().starSellRiseChoices[1], 21);
-    QCOMPARE(trade.parm().starSellRiseChoices[2], saved);
-    QCOMPARE(trade.parm().starBuyRiseIndex, 1);
+    PlainDialog dialog([&](FakeTrade& trade) {
+        for (int item = 0; item < 3; ++item) {
+            trade.parm().starBuyRiseChoices[item] = 10 + item;
+            trade.parm().starSellRiseChoices[item] = 20 + item;
+        }
+        trade.parm().starBuyRiseIndex = 1;
+    });
+    dialog->ui.comboBox_trade_kc_buyRise->setItemText(0, text);
+    dialog->ui.comboBox_trade_kc_sellRise->setItemText(2, text);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.parm().starBuyRiseChoices[0], saved);
+    QCOMPARE(dialog.trade.parm().starBuyRiseChoices[1], 11);
+    QCOMPARE(dialog.trade.parm().starBuyRiseChoices[2], 12);
+    QCOMPARE(dialog.trade.parm().starSellRiseChoices[0], 20);
+    QCOMPARE(dialog.trade.parm().starSellRiseChoices[1], 21);
+    QCOMPARE(dialog.trade.parm().starSellRiseChoices[2], saved);
+    QCOMPARE(dialog.trade.parm().starBuyRiseIndex, 1);
 }
 
 void tst_RecordRoundTrip::hotkeysByRow_data()
@@ -665,19 +644,17 @@ void tst_RecordRoundTrip::hotkeysByRow()
 {
     QFETCH(int, row);
     QFETCH(int, entry);
-    FakeTrade trade;
-    trade.setDistinctShortcuts();
-    const CTradeConfigWidget dialog(&trade);
+    const TestDialog dialog;
     const QString letter(QLatin1Char(char('A' + entry)));
     const auto cell = [row](const QTableWidget* table) {
         return qobject_cast<CTableLineEdit*>(table->cellWidget(row, 1))->text();
     };
-    QCOMPARE(cell(dialog.ui.tableWidget_shortcut), QStringLiteral("Ctrl+") + letter);
-    QCOMPARE(cell(dialog.ui.tableWidget_credit), QStringLiteral("Alt+") + letter);
-    QCOMPARE(dialog.stockShortcutTexts.size(), 13);
-    QCOMPARE(dialog.creditShortcutTexts.size(), 13);
-    QCOMPARE(dialog.stockShortcutTexts.at(row), QStringLiteral("Ctrl+") + letter);
-    QCOMPARE(dialog.creditShortcutTexts.at(row), QStringLiteral("Alt+") + letter);
+    QCOMPARE(cell(dialog->ui.tableWidget_shortcut), QStringLiteral("Ctrl+") + letter);
+    QCOMPARE(cell(dialog->ui.tableWidget_credit), QStringLiteral("Alt+") + letter);
+    QCOMPARE(dialog->stockShortcutTexts.size(), 13);
+    QCOMPARE(dialog->creditShortcutTexts.size(), 13);
+    QCOMPARE(dialog->stockShortcutTexts.at(row), QStringLiteral("Ctrl+") + letter);
+    QCOMPARE(dialog->creditShortcutTexts.at(row), QStringLiteral("Alt+") + letter);
 }
 
 void tst_RecordRoundTrip::hotkeyEditedInRow_data() { hotkeysByRow_data(); }
@@ -686,22 +663,20 @@ void tst_RecordRoundTrip::hotkeyEditedInRow()
 {
     QFETCH(int, row);
     QFETCH(int, entry);
-    FakeTrade trade;
-    trade.setDistinctShortcuts();
-    CTradeConfigWidget dialog(&trade);
+    TestDialog dialog;
     const auto press = [row](const QTableWidget* table) {
         QTest::keyClick(table->cellWidget(row, 1), Qt::Key_Z, Qt::ControlModifier);
     };
-    press(dialog.ui.tableWidget_shortcut);
-    press(dialog.ui.tableWidget_credit);
-    confirm(dialog);
-    QCOMPARE(trade.saves, 1);
+    press(dialog->ui.tableWidget_shortcut);
+    press(dialog->ui.tableWidget_credit);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.saves, 1);
     for (int other = 0; other < 13; ++other) {
         const char letter = char('A' + other);
         const bool edited = other == entry;
-        QCOMPARE(trade.text(&TradeParm::stockShortcuts, other),
+        QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, other),
                  edited ? QByteArray("Ctrl+Z") : QByteArray("Ctrl+") + letter);
-        QCOMPARE(trade.text(&TradeParm::creditShortcuts, other),
+        QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, other),
                  edited ? QByteArray("Ctrl+Z") : QByteArray("Alt+") + letter);
     }
 }
@@ -726,18 +701,17 @@ void tst_RecordRoundTrip::keyTextsInLocalEncoding()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, text);
-    FakeTrade trade;
-    trade.setDistinctShortcuts();
-    trade.setText(&TradeParm::stockShortcuts, 5, bytes);
-    trade.setText(&TradeParm::creditShortcuts, 12, bytes);
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(dialog.stockShortcutTexts.at(2), text);
-    QCOMPARE(dialog.creditShortcutTexts.at(12), text);
-    trade.setText(&TradeParm::stockShortcuts, 5, "other");
-    trade.setText(&TradeParm::creditShortcuts, 12, "other");
-    confirm(dialog);
-    QCOMPARE(trade.text(&TradeParm::stockShortcuts, 5), bytes);
-    QCOMPARE(trade.text(&TradeParm::creditShortcuts, 12), bytes);
+    TestDialog dialog([&](FakeTrade& trade) {
+        trade.setText(&TradeParm::stockShortcuts, 5, bytes);
+        trade.setText(&TradeParm::creditShortcuts, 12, bytes);
+    });
+    QCOMPARE(dialog->stockShortcutTexts.at(2), text);
+    QCOMPARE(dialog->creditShortcutTexts.at(12), text);
+    dialog.trade.setText(&TradeParm::stockShortcuts, 5, "other");
+    dialog.trade.setText(&TradeParm::creditShortcuts, 12, "other");
+    dialog.confirm();
+    QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, 5), bytes);
+    QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, 12), bytes);
 }
 
 // The local encoding, whatever it is: here one in which the same bytes are no UTF-8.
@@ -746,98 +720,86 @@ void tst_RecordRoundTrip::keyTextsInAnotherEncoding()
     QTextCodec* const before = QTextCodec::codecForLocale();
     QTextCodec* const codec = QTextCodec::codecForName("GB18030");
     QVERIFY(codec);
-    FakeTrade trade;
-    trade.setDistinctShortcuts();
-    trade.setText(&TradeParm::stockShortcuts, 0, "\xbf\xd5");
-    trade.setText(&TradeParm::creditShortcuts, 5, "Ctrl+\xbf\xd5");
     QTextCodec::setCodecForLocale(codec);
-    CTradeConfigWidget dialog(&trade);
-    const QString stock = dialog.stockShortcutTexts.at(0);
-    const QString credit = dialog.creditShortcutTexts.at(2);
-    trade.setText(&TradeParm::stockShortcuts, 0, "other");
-    trade.setText(&TradeParm::creditShortcuts, 5, "other");
-    confirm(dialog);
+    TestDialog dialog([](FakeTrade& trade) {
+        trade.setText(&TradeParm::stockShortcuts, 0, "\xbf\xd5");
+        trade.setText(&TradeParm::creditShortcuts, 5, "Ctrl+\xbf\xd5");
+    });
+    const QString stock = dialog->stockShortcutTexts.at(0);
+    const QString credit = dialog->creditShortcutTexts.at(2);
+    dialog.trade.setText(&TradeParm::stockShortcuts, 0, "other");
+    dialog.trade.setText(&TradeParm::creditShortcuts, 5, "other");
+    dialog.confirm();
     QTextCodec::setCodecForLocale(before);
     QCOMPARE(stock, QStringLiteral("空"));
     QCOMPARE(credit, QStringLiteral("Ctrl+空"));
-    QCOMPARE(trade.text(&TradeParm::stockShortcuts, 0), QByteArray("\xbf\xd5"));
-    QCOMPARE(trade.text(&TradeParm::creditShortcuts, 5), QByteArray("Ctrl+\xbf\xd5"));
+    QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, 0), QByteArray("\xbf\xd5"));
+    QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, 5), QByteArray("Ctrl+\xbf\xd5"));
 }
 
 void tst_RecordRoundTrip::globalHotkeysStayOut()
 {
-    FakeTrade trade;
-    fillPlain(trade);
-    CTradeConfigWidget dialog(&trade);
-    auto* const cell = qobject_cast<QLineEdit*>(dialog.ui.tableWidget_whole->cellWidget(0, 1));
+    PlainDialog dialog;
+    auto* const cell = qobject_cast<QLineEdit*>(dialog->ui.tableWidget_whole->cellWidget(0, 1));
     QCOMPARE(cell->text(), QStringLiteral("F5"));
     cell->setText(QStringLiteral("F6"));
-    confirm(dialog);
+    dialog.confirm();
     for (int entry = 0; entry < 13; ++entry) {
-        QVERIFY(!trade.text(&TradeParm::stockShortcuts, entry).contains("F6"));
-        QVERIFY(!trade.text(&TradeParm::creditShortcuts, entry).contains("F6"));
+        QVERIFY(!dialog.trade.text(&TradeParm::stockShortcuts, entry).contains("F6"));
+        QVERIFY(!dialog.trade.text(&TradeParm::creditShortcuts, entry).contains("F6"));
     }
 }
 
 void tst_RecordRoundTrip::reservedBytesStay()
 {
-    FakeTrade trade;
-    fillPlain(trade);
     QByteArray pattern;
     for (int index = 0; index < 76; ++index)
         pattern.append(char(index * 37 + 11));
-    std::memcpy(trade.parm().reservedA, pattern.constData(), 4);
-    std::memcpy(trade.parm().reservedB, pattern.constData() + 4, 72);
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(trade.reservedBytes(), pattern);
-    for (QComboBox* const combo : dialog.findChildren<QComboBox*>()) {
+    PlainDialog dialog([&](FakeTrade& trade) {
+        std::memcpy(trade.parm().reservedA, pattern.constData(), 4);
+        std::memcpy(trade.parm().reservedB, pattern.constData() + 4, 72);
+    });
+    QCOMPARE(dialog.trade.reservedBytes(), pattern);
+    for (QComboBox* const combo : dialog->findChildren<QComboBox*>()) {
         const QSignalBlocker quiet(combo);
         combo->setCurrentIndex(combo->count() - 1);
     }
-    for (QCheckBox* const box : dialog.findChildren<QCheckBox*>())
+    for (QCheckBox* const box : dialog->findChildren<QCheckBox*>())
         box->toggle();
-    confirm(dialog);
-    QCOMPARE(trade.saves, 1);
-    QCOMPARE(trade.reservedBytes(), pattern);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.saves, 1);
+    QCOMPARE(dialog.trade.reservedBytes(), pattern);
 }
 
 void tst_RecordRoundTrip::pageModeStays()
 {
     for (const int mode : {0, 1, 2, -7, INT_MAX}) {
-        FakeTrade trade;
-        fillPlain(trade);
-        trade.parm().uiPageMode = mode;
-        CTradeConfigWidget dialog(&trade);
-        confirm(dialog);
-        QCOMPARE(trade.parm().uiPageMode, mode);
+        PlainDialog dialog([&](FakeTrade& trade) { trade.parm().uiPageMode = mode; });
+        dialog.confirm();
+        QCOMPARE(dialog.trade.parm().uiPageMode, mode);
     }
 }
 
 void tst_RecordRoundTrip::languageIsWrittenNeverRead()
 {
     for (const int language : {0, 1, 2, 3, -1}) {
-        FakeTrade trade;
-        fillPlain(trade);
-        trade.parm().languageIndex = language;
-        CTradeConfigWidget dialog(&trade);
-        QCOMPARE(dialog.ui.comboBox_system_language->currentIndex(), 0); // no settings file
-        QCOMPARE(trade.parm().languageIndex, language);
-        confirm(dialog);
-        QCOMPARE(trade.parm().languageIndex, 0);
+        PlainDialog dialog([&](FakeTrade& trade) { trade.parm().languageIndex = language; });
+        QCOMPARE(dialog->ui.comboBox_system_language->currentIndex(), 0); // no settings file
+        QCOMPARE(dialog.trade.parm().languageIndex, language);
+        dialog.confirm();
+        QCOMPARE(dialog.trade.parm().languageIndex, 0);
     }
 }
 
 void tst_RecordRoundTrip::loadingAsksTwiceAndSavesNever()
 {
-    FakeTrade trade;
-    fillPlain(trade);
-    CTradeConfigWidget dialog(&trade);
-    QCOMPARE(trade.gets, 2);
-    QCOMPARE(trade.saves, 0);
-    confirm(dialog);
-    QCOMPARE(trade.gets, 3);
-    QCOMPARE(trade.saves, 1);
-    QCOMPARE(trade.foreignCalls, 0);
+    PlainDialog dialog;
+    QCOMPARE(dialog.trade.gets, 2);
+    QCOMPARE(dialog.trade.saves, 0);
+    dialog.confirm();
+    QCOMPARE(dialog.trade.gets, 3);
+    QCOMPARE(dialog.trade.saves, 1);
+    QCOMPARE(dialog.trade.foreignCalls, 0);
 }
 
 TRADECONFIG_TEST_MAIN(tst_RecordRoundTrip)

@@ -1,17 +1,14 @@
 #include "support/Contrast.h"
-#include "support/FakeTrade.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/dialog/ShortcutTable.h"
 
 #include <QHeaderView>
 #include <QStyleFactory>
-
-#include <memory>
 
 namespace {
 
@@ -29,30 +26,11 @@ const QStringList functions
 // The keys of the record by table row, as FakeTrade::setDistinctShortcuts spreads them.
 const QString lettersByRow = QStringLiteral("ABFGCDEHIJKLM");
 
-struct Dialog {
-    Dialog()
-    {
-        trade.setDistinctShortcuts();
-        widget = std::make_unique<CTradeConfigWidget>(&trade);
-    }
-
-    QTableWidget& table(const QString& name) const
-    {
-        return *widget->findChild<QTableWidget*>(name);
-    }
-
-    CTradeConfigWidget* operator->() const { return widget.get(); }
-
-    FakeTrade trade;
-    std::unique_ptr<CTradeConfigWidget> widget;
-};
-
 /// One of the two tables that can be edited, and what the dialog keeps for it.
 struct Side {
     explicit Side(bool isCredit)
         : credit(isCredit)
-        , table(dialog.table(isCredit ? QStringLiteral("tableWidget_credit")
-                                      : QStringLiteral("tableWidget_shortcut")))
+        , table(dialog.find<QTableWidget>(isCredit ? "tableWidget_credit" : "tableWidget_shortcut"))
         , texts(isCredit ? dialog->creditShortcutTexts : dialog->stockShortcutTexts)
         , key(isCredit ? QStringLiteral("creditShortcut") : QStringLiteral("stcokShortcut"))
         , otherKey(isCredit ? QStringLiteral("stcokShortcut") : QStringLiteral("creditShortcut"))
@@ -85,7 +63,7 @@ struct Side {
         return rows;
     }
 
-    Dialog dialog;
+    TestDialog dialog;
     bool credit;
     QTableWidget& table;
     QStringList& texts;
@@ -189,8 +167,8 @@ void tst_ShortcutTable::setUp()
 {
     QFETCH(QString, name);
     QFETCH(int, rows);
-    const Dialog dialog;
-    const QTableWidget& table = dialog.table(name);
+    const TestDialog dialog;
+    const QTableWidget& table = dialog.find<QTableWidget>(qPrintable(name));
 
     QCOMPARE(table.frameShape(), QFrame::NoFrame);
     const QHeaderView& header = *table.horizontalHeader();
@@ -235,8 +213,8 @@ void tst_ShortcutTable::setUp()
 
 void tst_ShortcutTable::globalTableIsFixed()
 {
-    const Dialog dialog;
-    const QTableWidget& table = dialog.table(QStringLiteral("tableWidget_whole"));
+    const TestDialog dialog;
+    const QTableWidget& table = *dialog->ui.tableWidget_whole;
     QCOMPARE(table.item(0, 0)->text(), QStringLiteral("刷新"));
     QCOMPARE(table.item(1, 0)->text(), QStringLiteral("显示/隐藏交易模块"));
     auto* const refresh = qobject_cast<CTableLineEdit*>(table.cellWidget(0, 1));
@@ -284,18 +262,18 @@ void tst_ShortcutTable::headerIsReadable()
     }
 
     {
-        const Dialog dialog;
-        QTableWidget& table = dialog.table(name);
+        const TestDialog dialog;
+        QTableWidget& table = dialog.find<QTableWidget>(qPrintable(name));
         dialog->show();
         dialog->SetCurrentIndex(2);
         auto* const pages = qobject_cast<QStackedWidget*>(table.parentWidget()->parentWidget());
         QVERIFY(pages);
         pages->setCurrentWidget(table.parentWidget());
-        QVERIFY(QTest::qWaitForWindowExposed(dialog.widget.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
 
         const QHeaderView& header = *table.horizontalHeader();
         const QImage window = dialog->grab().toImage();
-        const QPoint origin = header.mapTo(dialog.widget.get(), QPoint());
+        const QPoint origin = header.mapTo(dialog.get(), QPoint());
         for (int column = 0; column < 3; ++column) {
             // Inside the section's borders.
             const QRect section(origin + QPoint(header.sectionViewportPosition(column) + 2, 3),
@@ -321,8 +299,8 @@ void tst_ShortcutTable::headerIsReadable()
 
 void tst_ShortcutTable::headerFollowsThePalette()
 {
-    const Dialog dialog;
-    const QTableWidget& table = dialog.table(QStringLiteral("tableWidget_shortcut"));
+    const TestDialog dialog;
+    const QTableWidget& table = *dialog->ui.tableWidget_shortcut;
     QPalette palette = dialog->palette();
     palette.setColor(QPalette::Button, QColor(1, 2, 3));
     palette.setColor(QPalette::ButtonText, QColor(250, 251, 252));
@@ -366,13 +344,13 @@ void tst_ShortcutTable::firstDuplicate()
 
 void tst_ShortcutTable::noKeyNoEntry()
 {
-    const Dialog dialog;
+    const TestDialog dialog;
     QVERIFY(dialog->inputValidity.isEmpty());
     dialog->show();
     // Visiting a cell without pressing a key is no edit.
-    auto* const editor = dialog.table(QStringLiteral("tableWidget_shortcut")).cellWidget(3, 1);
+    auto* const editor = dialog->ui.tableWidget_shortcut->cellWidget(3, 1);
     editor->setFocus();
-    dialog->ui.pushButton_confirm->setFocus();
+    dialog.leaveField();
     QVERIFY(dialog->inputValidity.isEmpty());
     QCOMPARE(editor->styleSheet(), QStringLiteral("border:0px;"));
 }
@@ -436,11 +414,9 @@ void tst_ShortcutTable::duplicateIsRefused()
     QCOMPARE(side.editor(0).styleSheet(), QStringLiteral("border:0px;"));
     QCOMPARE(side.status(0), normal);
     // The cells of the other table are not disabled.
-    const auto* const other = side.dialog
-                                  .table(credit ? QStringLiteral("tableWidget_shortcut")
-                                                : QStringLiteral("tableWidget_credit"))
-                                  .cellWidget(0, 1);
-    QVERIFY(other->isEnabled());
+    const Ui_CTradeConfigWidget& ui = side.dialog->ui;
+    const QTableWidget* const other = credit ? ui.tableWidget_shortcut : ui.tableWidget_credit;
+    QVERIFY(other->cellWidget(0, 1)->isEnabled());
 }
 
 void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
@@ -549,13 +525,13 @@ void tst_ShortcutTable::confirmRefusesAnError()
     side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
     {
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
-        side.dialog->ui.pushButton_confirm->click();
+        side.dialog.confirm();
         QCOMPARE(answer.title(), QStringLiteral("提示"));
     }
     QCOMPARE(side.dialog.trade.saves, 0);
     QVERIFY(side.dialog->isVisible());
     side.capture(4, Qt::Key_Y, Qt::ControlModifier);
-    side.dialog->ui.pushButton_confirm->click();
+    side.dialog.confirm();
     QCOMPARE(side.dialog.trade.saves, 1);
     QVERIFY(!side.dialog->isVisible());
 }
@@ -735,7 +711,7 @@ void tst_ShortcutTable::textsAreTranslated()
     const Side side(false);
     for (const char* const name :
          {"tableWidget_shortcut", "tableWidget_credit", "tableWidget_whole"}) {
-        const QTableWidget& table = side.dialog.table(QString::fromLatin1(name));
+        const QTableWidget& table = side.dialog.find<QTableWidget>(name);
         QCOMPARE(table.horizontalHeaderItem(0)->text(), QStringLiteral("T:功能说明"));
         QCOMPARE(table.horizontalHeaderItem(1)->text(), QStringLiteral("T:键位设定"));
         QCOMPARE(table.horizontalHeaderItem(2)->text(), QStringLiteral("T:设置说明"));
@@ -745,7 +721,7 @@ void tst_ShortcutTable::textsAreTranslated()
                 QCOMPARE(table.item(row, 0)->text(), QStringLiteral("T:") + functions.at(row));
         }
     }
-    const QTableWidget& whole = side.dialog.table(QStringLiteral("tableWidget_whole"));
+    const QTableWidget& whole = *side.dialog->ui.tableWidget_whole;
     QCOMPARE(whole.item(0, 0)->text(), QStringLiteral("T:刷新"));
     QCOMPARE(whole.item(1, 0)->text(), QStringLiteral("T:显示/隐藏交易模块"));
 

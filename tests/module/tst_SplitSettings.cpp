@@ -1,12 +1,9 @@
-#include "support/FakeTrade.h"
 #include "support/ModalAnswer.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TipLabel.h"
 
 #include <QIntValidator>
-
-#include <memory>
 
 namespace {
 
@@ -66,45 +63,41 @@ const Group groups[] = {
 };
 
 /// The dialog, shown on the page of one group.
-struct Session {
+struct Session : TestDialog {
     explicit Session(int groupIndex, int strategy = 0, int base = 1000, int upper = 500,
                      int lower = 200, int decrement = 200)
-        : group(groups[groupIndex])
+        : TestDialog([&](FakeTrade& core) {
+            const Group& chosen = groups[groupIndex];
+            TradeParm& parm = core.parm();
+            parm.*chosen.enabledValue = 1;
+            parm.*chosen.strategyValue = strategy;
+            const int values[] = {base, upper, lower, decrement};
+            for (int field = 0; field < 4; ++field)
+                parm.*chosen.values[field] = values[field];
+            for (int item = 0; item < 3; ++item) {
+                parm.starBuyRiseChoices[item] = item + 1;
+                parm.starSellRiseChoices[item] = 10 * (item + 1);
+            }
+        })
+        , group(groups[groupIndex])
     {
-        trade.setDistinctShortcuts();
-        TradeParm& parm = trade.parm();
-        parm.*group.enabledValue = 1;
-        parm.*group.strategyValue = strategy;
-        const int values[] = {base, upper, lower, decrement};
-        for (int field = 0; field < 4; ++field)
-            parm.*group.values[field] = values[field];
-        for (int item = 0; item < 3; ++item) {
-            parm.starBuyRiseChoices[item] = item + 1;
-            parm.starSellRiseChoices[item] = 10 * (item + 1);
-        }
-        widget = std::make_unique<CTradeConfigWidget>(&trade);
-        widget->SetCurrentIndex(1);
-        widget->ui.stackedWidget_trade->setCurrentIndex(group.page);
-        widget->show();
+        get()->SetCurrentIndex(1);
+        get()->ui.stackedWidget_trade->setCurrentIndex(group.page);
+        get()->show();
         shown = activate();
     }
 
     /// Also after a modal box, which leaves no window active on the test platform.
     bool activate() const
     {
-        widget->activateWindow();
-        return QTest::qWaitForWindowActive(widget.get());
-    }
-
-    template <typename Widget = QWidget> Widget& find(const char* name) const
-    {
-        return *widget->findChild<Widget*>(QString::fromLatin1(name));
+        get()->activateWindow();
+        return QTest::qWaitForWindowActive(get());
     }
 
     QLineEdit& edit(int field) const { return find<QLineEdit>(group.edits[field]); }
     QString key(int field) const { return QString::fromLatin1(group.edits[field]); }
     QComboBox& strategy() const { return find<QComboBox>(group.strategy); }
-    CTipLabel& tip() const { return *widget->tipLabel; }
+    CTipLabel& tip() const { return *get()->tipLabel; }
 
     /// Types @p text over what the field holds.
     void type(int field, const QString& text) const
@@ -117,12 +110,10 @@ struct Session {
             QTest::keyClicks(&edit(field), text);
     }
 
-    void leave() const { widget->ui.pushButton_confirm->setFocus(); }
-
     void enter(int field, const QString& text) const
     {
         type(field, text);
-        leave();
+        leaveField();
     }
 
     /// 'r' red, 'g' green, '-' no mark, for base, upper, lower and decrement; and the same for
@@ -134,8 +125,8 @@ struct Session {
         for (int field = 0; field < 4; ++field) {
             const QString sheet = edit(field).styleSheet();
             marks += sheet == red ? u'r' : sheet == green ? u'g' : sheet.isEmpty() ? u'-' : u'?';
-            const auto entry = widget->inputValidity.constFind(key(field));
-            entries += entry == widget->inputValidity.constEnd() ? u'-' : *entry ? u'1' : u'0';
+            const auto entry = get()->inputValidity.constFind(key(field));
+            entries += entry == get()->inputValidity.constEnd() ? u'-' : *entry ? u'1' : u'0';
         }
         return marks + u' ' + entries;
     }
@@ -152,8 +143,6 @@ struct Session {
     }
 
     const Group& group;
-    FakeTrade trade;
-    std::unique_ptr<CTradeConfigWidget> widget;
     bool shown = false;
 };
 
@@ -165,8 +154,8 @@ struct Rise {
                                              : "comboBox_trade_kc_buyRise"))
         , button(
               session.find<QPushButton>(sell ? "pushButton_kc_sellRise" : "pushButton_kc_buyRise"))
-        , text(sell ? session.widget->starSellRiseText : session.widget->starBuyRiseText)
-        , otherText(sell ? session.widget->starBuyRiseText : session.widget->starSellRiseText)
+        , text(sell ? session->starSellRiseText : session->starBuyRiseText)
+        , otherText(sell ? session->starBuyRiseText : session->starSellRiseText)
         , first(sell ? QStringLiteral("10") : QStringLiteral("1"))
         , second(sell ? QStringLiteral("20") : QStringLiteral("2"))
         , third(sell ? QStringLiteral("30") : QStringLiteral("3"))
@@ -176,7 +165,7 @@ struct Rise {
     }
 
     void begin() const { QTest::mouseClick(&button, Qt::LeftButton); }
-    void leave() const { session.leave(); }
+    void leave() const { session.leaveField(); }
 
     void type(const QString& percent) const
     {
@@ -382,7 +371,7 @@ void tst_SplitSettings::rules()
     session.type(field, typed);
     QCOMPARE(session.state(), QStringLiteral("---- ----"));
     QVERIFY(session.tip().isHidden());
-    session.leave();
+    session.leaveField();
 
     QString expected = QStringLiteral("---- ----");
     expected[field] = tip.isEmpty() ? u'g' : u'r';
@@ -552,11 +541,11 @@ void tst_SplitSettings::groupsStandApart()
     QFETCH(int, group);
     const Session session(group, 0);
     for (const char* const name : groups[1 - group].edits)
-        session.widget->inputValidity.insert(QString::fromLatin1(name), false);
+        session->inputValidity.insert(QString::fromLatin1(name), false);
     session.enter(Base, QStringLiteral("500"));
     session.enter(Upper, QStringLiteral("400"));
     for (const char* const name : groups[1 - group].edits) {
-        QCOMPARE(session.widget->inputValidity.value(QString::fromLatin1(name), true), false);
+        QCOMPARE(session->inputValidity.value(QString::fromLatin1(name), true), false);
         QCOMPARE(session.find(name).styleSheet(), QString());
     }
     QCOMPARE(session.find(groups[1 - group].lowerLabel).isHidden(), true);
@@ -567,14 +556,14 @@ void tst_SplitSettings::unknownNameClearsNothing()
     const Session session(0);
     for (const Group& group : groups) {
         for (const char* const name : group.edits)
-            session.widget->inputValidity.insert(QString::fromLatin1(name), false);
+            session->inputValidity.insert(QString::fromLatin1(name), false);
     }
-    const auto before = session.widget->inputValidity;
+    const auto before = session->inputValidity;
     for (const char* const name :
          {"", "lineEdit_trade_baseCount", "lineEdit_trade_kc_baseCount", "stcokShortcut",
           "lineEdit_system_lockTime", "LINEEDIT_TRADE_HIGH"})
-        session.widget->CheckSplitIsOk(QString::fromLatin1(name));
-    QCOMPARE(session.widget->inputValidity, before);
+        session->CheckSplitIsOk(QString::fromLatin1(name));
+    QCOMPARE(session->inputValidity, before);
 }
 
 void tst_SplitSettings::nothingWhileTyping()
@@ -590,21 +579,21 @@ void tst_SplitSettings::nothingWhileTyping()
         }
         QTest::keyClick(&session.edit(field), Qt::Key_Return);
         QCOMPARE(session.edit(field).styleSheet(), QString());
-        QVERIFY(!session.widget->inputValidity.contains(session.key(field)));
+        QVERIFY(!session->inputValidity.contains(session.key(field)));
     }
     QVERIFY(session.tip().isHidden());
     // Neither does setting a text.
     session.edit(Lower).setText(QStringLiteral("1"));
-    QVERIFY(!session.widget->inputValidity.contains(session.key(Lower)));
+    QVERIFY(!session->inputValidity.contains(session.key(Lower)));
 }
 
 void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
 {
     QFETCH(int, group);
     Session session(group, 0, 1, 1, 1, 1);
-    QVERIFY(session.widget->inputValidity.isEmpty());
+    QVERIFY(session->inputValidity.isEmpty());
     // Bad values that nobody visited do not stop a save.
-    session.widget->ui.pushButton_confirm->click();
+    session.confirm();
     QCOMPARE(session.trade.saves, 1);
     QCOMPARE(session.trade.parm().*session.group.values[Upper], 1);
 }
@@ -612,12 +601,12 @@ void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
 void tst_SplitSettings::otherFieldsAreNotChecked()
 {
     const Session session(0);
-    session.widget->SetCurrentIndex(0);
-    QLineEdit& lockTime = *session.widget->ui.lineEdit_system_lockTime;
+    session->SetCurrentIndex(0);
+    QLineEdit& lockTime = *session->ui.lineEdit_system_lockTime;
     lockTime.setFocus();
     lockTime.clear();
-    session.leave();
-    QVERIFY(session.widget->inputValidity.isEmpty());
+    session.leaveField();
+    QVERIFY(session->inputValidity.isEmpty());
     QCOMPARE(lockTime.styleSheet(), QString());
     QVERIFY(session.tip().isHidden());
 
@@ -625,8 +614,8 @@ void tst_SplitSettings::otherFieldsAreNotChecked()
     QLineEdit stranger;
     stranger.setObjectName(QStringLiteral("lineEdit_trade_high"));
     QFocusEvent out(QEvent::FocusOut);
-    QVERIFY(!session.widget->eventFilter(&stranger, &out));
-    QVERIFY(session.widget->inputValidity.isEmpty());
+    QVERIFY(!session->eventFilter(&stranger, &out));
+    QVERIFY(session->inputValidity.isEmpty());
 }
 
 void tst_SplitSettings::noEventIsConsumed()
@@ -639,17 +628,16 @@ void tst_SplitSettings::noEventIsConsumed()
     QList<QObject*> watched;
     for (const char* const name : groups[1].edits)
         watched << &session.find(name);
-    watched << session.widget->ui.comboBox_trade_kc_buyRise
-            << session.widget->ui.comboBox_trade_kc_sellRise
-            << session.widget->ui.lineEdit_system_lockTime << session.widget.get();
+    watched << session->ui.comboBox_trade_kc_buyRise << session->ui.comboBox_trade_kc_sellRise
+            << session->ui.lineEdit_system_lockTime << session.get();
     for (QObject* const object : qAsConst(watched)) {
         for (const QEvent::Type type : types) {
-            session.widget->inputValidity.clear();
+            session->inputValidity.clear();
             QEvent event(type);
             event.setAccepted(true);
-            QVERIFY(!session.widget->eventFilter(object, &event));
+            QVERIFY(!session->eventFilter(object, &event));
             QVERIFY(event.isAccepted());
-            const bool checked = !session.widget->inputValidity.isEmpty();
+            const bool checked = !session->inputValidity.isEmpty();
             QCOMPARE(checked,
                      type == QEvent::FocusOut
                          && object->objectName().startsWith(QStringLiteral("lineEdit_trade_kc_")));
@@ -687,26 +675,26 @@ void tst_SplitSettings::tipPlace()
     QVERIFY(place.x() > 0 && place.width() >= 90 && place.height() >= 23);
     session.enter(field, typed);
     QVERIFY(session.tip().isVisible());
-    QCOMPARE(session.tip().parentWidget(), session.widget.get());
+    QCOMPARE(session.tip().parentWidget(), session.get());
     QCOMPARE(session.tip().geometry(),
              QRect(place.x() + place.width() + 130, place.y() + 62, width, place.height()));
     QCOMPARE(session.tip().styleSheet(), QStringLiteral("color:red;"));
     // Nothing lies over it.
     const QPoint middle = session.tip().geometry().center();
-    QCOMPARE(session.widget->childAt(middle), &session.tip());
+    QCOMPARE(session->childAt(middle), &session.tip());
 }
 
 void tst_SplitSettings::tipForNoWidget()
 {
     const Session session(0);
     QObject stranger;
-    session.widget->ShowInputErrorMsg(&stranger, QStringLiteral("x"), 160);
-    session.widget->ShowInputErrorMsg(nullptr, QStringLiteral("x"), 160);
+    session->ShowInputErrorMsg(&stranger, QStringLiteral("x"), 160);
+    session->ShowInputErrorMsg(nullptr, QStringLiteral("x"), 160);
     QVERIFY(session.tip().isHidden());
 
     QWidget field;
     field.setGeometry(7, 11, 30, 40);
-    session.widget->ShowInputErrorMsg(&field, QStringLiteral("text"), 123);
+    session->ShowInputErrorMsg(&field, QStringLiteral("text"), 123);
     QCOMPARE(session.tip().geometry(), QRect(167, 73, 123, 40));
     QCOMPARE(session.tip().text(), QStringLiteral("text"));
     QVERIFY(session.tip().isVisible());
@@ -717,10 +705,10 @@ void tst_SplitSettings::tipIsReused()
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
     session.enter(Base, QStringLiteral("1"));
-    const CTipLabel* const tip = session.widget->tipLabel;
+    const CTipLabel* const tip = session->tipLabel;
     session.enter(Lower, QStringLiteral("501"));
-    QCOMPARE(session.widget->tipLabel, tip);
-    QCOMPARE(session.widget->findChildren<CTipLabel*>().size(), 1);
+    QCOMPARE(session->tipLabel, tip);
+    QCOMPARE(session->findChildren<CTipLabel*>().size(), 1);
     QCOMPARE(tip->text(), aboveUpper);
     // Accepting a value does not hide the tip early.
     session.enter(Lower, QStringLiteral("500"));
@@ -765,9 +753,9 @@ void tst_SplitSettings::strategyRows()
         session.find(session.group.lowerLabel).setVisible(visible);
         session.find(session.group.decrementLabel).setVisible(visible);
         if (group == 0)
-            session.widget->SelectFcSplit(index);
+            session->SelectFcSplit(index);
         else
-            session.widget->SelectFcKcSplit(index);
+            session->SelectFcKcSplit(index);
         seen += session.rows() + u' ';
     }
     QCOMPARE(seen.trimmed(), rows);
@@ -777,7 +765,7 @@ void tst_SplitSettings::strategyRows()
     QCOMPARE(session.edit(Base).text(), preset ? QStringLiteral("10000") : QStringLiteral("1234"));
     if (!preset)
         QCOMPARE(session.edit(Upper).text(), QStringLiteral("4321"));
-    QVERIFY(session.widget->inputValidity.isEmpty());
+    QVERIFY(session->inputValidity.isEmpty());
 }
 
 void tst_SplitSettings::presets_data()
@@ -817,16 +805,16 @@ void tst_SplitSettings::presetsKeepMarks()
     QCOMPARE(session.state(), QStringLiteral("rr-- 00--"));
     {
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
-        session.widget->ui.pushButton_confirm->click();
+        session.confirm();
     }
     QCOMPARE(session.trade.saves, 0);
     QVERIFY(session.activate());
     // Visiting is enough: the preset is valid.
     session.edit(Base).setFocus();
     session.edit(Upper).setFocus();
-    session.leave();
+    session.leaveField();
     QCOMPARE(session.state(), QStringLiteral("gg-- 11--"));
-    session.widget->ui.pushButton_confirm->click();
+    session.confirm();
     QCOMPARE(session.trade.saves, 1);
 }
 
@@ -849,7 +837,7 @@ void tst_SplitSettings::presetsWhileLoading()
     QCOMPARE(session.edit(Upper).text(), QStringLiteral("4321"));
     QCOMPARE(session.edit(Lower).text(), QStringLiteral("77"));
     QCOMPARE(session.edit(Decrement).text(), QStringLiteral("88"));
-    session.widget->WriteAllParm();
+    session->WriteAllParm();
     QTEST(number(session.trade.parm().starSplitBaseQty), "base");
     QCOMPARE(session.trade.parm().starSplitMaxQty, 4321);
 
@@ -915,9 +903,9 @@ void tst_SplitSettings::riseStates()
     QVERIFY(rise.button.isEnabled());
     QCOMPARE(rise.items(), QStringList({rise.first, QStringLiteral("47"), rise.third}));
     QCOMPARE(rise.combo.currentIndex(), 1);
-    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+    QVERIFY(rise.session->inputValidity.isEmpty());
 
-    rise.session.widget->WriteAllParm();
+    rise.session->WriteAllParm();
     QCOMPARE(rise.choices[0], rise.first.toInt());
     QCOMPARE(rise.choices[1], 47);
     QCOMPARE(rise.choices[2], rise.third.toInt());
@@ -1015,7 +1003,7 @@ void tst_SplitSettings::riseValidator()
     QVERIFY(validator);
     QCOMPARE(validator->bottom(), 0);
     QCOMPARE(validator->top(), 100);
-    QCOMPARE(validator->parent(), rise.session.widget.get());
+    QCOMPARE(validator->parent(), rise.session.get());
 
     rise.type(QStringLiteral("101"));
     QCOMPARE(rise.text, QStringLiteral("10"));
@@ -1031,7 +1019,7 @@ void tst_SplitSettings::riseValidator()
     const auto* const next = qobject_cast<const QIntValidator*>(rise.combo.validator());
     QVERIFY(next);
     QVERIFY(next != validator);
-    QCOMPARE(next->parent(), rise.session.widget.get());
+    QCOMPARE(next->parent(), rise.session.get());
 }
 
 void tst_SplitSettings::riseFocusOrder()
@@ -1042,7 +1030,7 @@ void tst_SplitSettings::riseFocusOrder()
     // passes it along would be checked.
     rise.begin();
     QVERIFY(rise.combo.hasFocus());
-    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+    QVERIFY(rise.session->inputValidity.isEmpty());
     rise.leave();
     rise.button.setFocus();
     QList<QWidget*> visited;
@@ -1053,7 +1041,7 @@ void tst_SplitSettings::riseFocusOrder()
     QCOMPARE(visited, QList<QWidget*>{&rise.combo});
     QVERIFY(rise.combo.isEditable());
     QVERIFY(rise.combo.hasFocus());
-    QVERIFY(rise.session.widget->inputValidity.isEmpty());
+    QVERIFY(rise.session->inputValidity.isEmpty());
     QVERIFY(rise.session.tip().isHidden());
     // The other price did not enter its editing state.
     QVERIFY(
@@ -1085,7 +1073,7 @@ void tst_SplitSettings::riseEmptyIsZero()
     QCOMPARE(rise.text, QString());
     rise.leave();
     QCOMPARE(rise.items(), QStringList({rise.first, rise.second, QString()}));
-    rise.session.widget->WriteAllParm();
+    rise.session->WriteAllParm();
     QCOMPARE(rise.session.trade.saves, 1);
     QCOMPARE(rise.choices[2], 0);
 }
@@ -1118,22 +1106,22 @@ void tst_SplitSettings::confirmRefusesInKeyOrder()
                              QRegularExpression(QStringLiteral("lineEdit_trade_high *: *false")));
         const int gets = session.trade.gets;
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
-        session.widget->ui.pushButton_confirm->click();
+        session.confirm();
         QCOMPARE(answer.title(), QStringLiteral("提示"));
         QCOMPARE(answer.text(),
                  QStringLiteral("存在不合理的修改参数\n"
                                 "请把红色标记的值修改为绿色标记后再次点击确定！"));
         QCOMPARE(session.trade.gets, gets);
         QCOMPARE(session.trade.saves, 0);
-        QVERIFY(session.widget->isVisible());
+        QVERIFY(session->isVisible());
     }
     QVERIFY(session.activate());
     session.enter(Upper, QStringLiteral("200"));
     QCOMPARE(session.state(), QStringLiteral("gg-- 11--"));
-    session.widget->ui.pushButton_confirm->click();
+    session.confirm();
     QCOMPARE(session.trade.saves, 1);
     QCOMPARE(session.trade.parm().splitMaxQty, 200);
-    QVERIFY(!session.widget->isVisible());
+    QVERIFY(!session->isVisible());
 }
 
 void tst_SplitSettings::tipGoesAwayByItself()
@@ -1144,7 +1132,7 @@ void tst_SplitSettings::tipGoesAwayByItself()
     QVERIFY(session.tip().isVisible());
     QVERIFY(session.tip().graphicsEffect());
     QTRY_VERIFY(!session.tip().isVisible());
-    session.widget->ShowInputErrorMsg(&session.edit(Upper), QStringLiteral("again"), 160);
+    session->ShowInputErrorMsg(&session.edit(Upper), QStringLiteral("again"), 160);
     QVERIFY(session.tip().isVisible());
     QTRY_VERIFY(!session.tip().isVisible());
 }
@@ -1155,11 +1143,11 @@ void tst_SplitSettings::leavingTheWindowChecksToo()
     QVERIFY(session.shown);
     for (const Qt::FocusReason reason :
          {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::OtherFocusReason}) {
-        session.widget->inputValidity.clear();
+        session->inputValidity.clear();
         session.edit(Base).setText(QStringLiteral("99"));
         QFocusEvent leaving(QEvent::FocusOut, reason);
         QCoreApplication::sendEvent(&session.edit(Base), &leaving);
-        QCOMPARE(session.widget->inputValidity.value(session.key(Base), true), false);
+        QCOMPARE(session->inputValidity.value(session.key(Base), true), false);
         QCOMPARE(session.edit(Base).styleSheet(), red);
     }
 }
@@ -1168,8 +1156,8 @@ void tst_SplitSettings::riseChoicesAreNotCleared()
 {
     const Rise buy(false);
     const Rise sell(true);
-    buy.session.widget->ReadAllParm();
-    sell.session.widget->ReadAllParm();
+    buy.session->ReadAllParm();
+    sell.session->ReadAllParm();
     QCOMPARE(buy.items().join(QLatin1Char(' ')), QStringLiteral("1 2 3 1 2 3"));
     QCOMPARE(sell.items().join(QLatin1Char(' ')), QStringLiteral("10 20 30 10 20 30"));
 }

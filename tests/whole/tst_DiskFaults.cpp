@@ -1,12 +1,11 @@
 #include "client/DataDirectory.h"
 #include "client/RecordStore.h"
 #include "client/TradeCore.h"
-#include "support/FakeTrade.h"
 #include "support/Files.h"
 #include "support/ModalAnswer.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
 #include "support/Unprivileged.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
 
 #include <QSignalSpy>
@@ -292,22 +291,21 @@ void tst_DiskFaults::languageInAReadOnlyDirectory()
 {
     const QByteArray before = "[UI]\nlanguage=zh_TW\nscale=150\n";
     writeFile(m_settings, before);
-    FakeTrade trade;
-    CTradeConfigWidget dialog(&trade);
-    dialog.show();
-    QCOMPARE(dialog.ui.comboBox_system_language->currentIndex(), 1);
+    TestDialog dialog;
+    dialog->show();
+    QCOMPARE(dialog->ui.comboBox_system_language->currentIndex(), 1);
     {
         const Unprivileged user({m_home});
         const ReadOnly locked(m_home);
         const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("否"));
-        dialog.ui.comboBox_system_language->setCurrentIndex(2);
+        dialog->ui.comboBox_system_language->setCurrentIndex(2);
     }
-    QCOMPARE(trade.parm().languageIndex, 2);
+    QCOMPARE(dialog.trade.parm().languageIndex, 2);
     QCOMPARE(contentOf(m_settings), before);
-    QVERIFY(dialog.isVisible());
-    dialog.WriteAllParm();
-    QCOMPARE(trade.saves, 1);
-    QVERIFY(dialog.isHidden());
+    QVERIFY(dialog->isVisible());
+    dialog->WriteAllParm();
+    QCOMPARE(dialog.trade.saves, 1);
+    QVERIFY(dialog->isHidden());
 }
 
 TRADECONFIG_TEST_MAIN(tst_DiskFaults)

@@ -1,8 +1,7 @@
 #include "gallery/Gallery.h"
-#include "support/FakeTrade.h"
 #include "support/Files.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/NavWidget.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
@@ -206,16 +205,15 @@ void tst_Translations::nothingIsCut()
         QVERIFY(QCoreApplication::installTranslator(&translator));
     }
 
-    FakeTrade trade;
-    trade.setDistinctShortcuts();
-    trade.parm().uiPageMode = 2;
-    trade.parm().starSplitStrategy = 3;
-    CTradeConfigWidget dialog(&trade);
-    dialog.show();
+    const TestDialog dialog([](FakeTrade& trade) {
+        trade.parm().uiPageMode = 2;
+        trade.parm().starSplitStrategy = 3;
+    });
+    dialog->show();
     // Rows that the strategies hide would not be laid out.
     for (QWidget* row : std::initializer_list<QWidget*>{
-             dialog.ui.label_trade_low, dialog.ui.label_trade_desc, dialog.ui.label_trade_kc_low,
-             dialog.ui.label_trade_kc_desc})
+             dialog->ui.label_trade_low, dialog->ui.label_trade_desc, dialog->ui.label_trade_kc_low,
+             dialog->ui.label_trade_kc_desc})
         row->show();
 
     QStringList cut;
@@ -229,17 +227,18 @@ void tst_Translations::nothingIsCut()
           };
 
     // Each page is shown once so that its layout is settled.
-    for (int group = 0; group < dialog.ui.stackedWidget->count(); ++group) {
-        dialog.SetCurrentIndex(group);
-        for (QStackedWidget* stack : {dialog.ui.stackedWidget_system, dialog.ui.stackedWidget_trade,
-                                      dialog.ui.stackedWidget_shortcut}) {
+    for (int group = 0; group < dialog->ui.stackedWidget->count(); ++group) {
+        dialog->SetCurrentIndex(group);
+        for (QStackedWidget* stack :
+             {dialog->ui.stackedWidget_system, dialog->ui.stackedWidget_trade,
+              dialog->ui.stackedWidget_shortcut}) {
             for (int page = 0; page < stack->count(); ++page) {
                 stack->setCurrentIndex(page);
                 QCoreApplication::processEvents();
             }
         }
     }
-    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+    for (const QWidget* widget : dialog->findChildren<QWidget*>()) {
         const int room = roomForText(*widget);
         if (room < 0)
             continue;
@@ -249,15 +248,15 @@ void tst_Translations::nothingIsCut()
 
     auto* const skin = CorvelSkin::CSkin::Instance();
     for (const CNavWidget* list :
-         {dialog.ui.widget_system, dialog.ui.widget_trade, dialog.ui.widget_shortcut}) {
+         {dialog->ui.widget_system, dialog->ui.widget_trade, dialog->ui.widget_shortcut}) {
         for (const QString& text : list->items)
             check(list->objectName(), text,
-                  skin->textSize(&dialog, SkinKeys::Font::NavSwitchSel(), text).width(),
+                  skin->textSize(dialog.get(), SkinKeys::Font::NavSwitchSel(), text).width(),
                   list->width() - 21);
     }
-    for (const SwitchItem* item : dialog.switchBar->items)
+    for (const SwitchItem* item : dialog->switchBar->items)
         check(QStringLiteral("switch bar"), item->label,
-              skin->textSize(&dialog, SkinKeys::Font::NavSwitchSel(), item->label).width(),
+              skin->textSize(dialog.get(), SkinKeys::Font::NavSwitchSel(), item->label).width(),
               item->rect.width());
 
     // What a check says: every function whose key may be taken, and a global hotkey.
@@ -269,7 +268,7 @@ void tst_Translations::nothingIsCut()
     };
     QSet<QString> verdicts;
     for (const QTableWidget* table :
-         {dialog.ui.tableWidget_shortcut, dialog.ui.tableWidget_credit}) {
+         {dialog->ui.tableWidget_shortcut, dialog->ui.tableWidget_credit}) {
         const auto checkStatus = [&](int row, const QString& key) {
             const QString text = status(*table, row, key);
             verdicts += text;
@@ -288,7 +287,7 @@ void tst_Translations::nothingIsCut()
         checkStatus(0, QStringLiteral("F12"));
     }
     // A function of either table, the global hotkey and the verdict that all is well.
-    QVERIFY2(verdicts.size() >= dialog.ui.tableWidget_shortcut->rowCount() + 2,
+    QVERIFY2(verdicts.size() >= dialog->ui.tableWidget_shortcut->rowCount() + 2,
              qPrintable(QStringList(verdicts.values()).join(QLatin1Char('\n'))));
 
     struct Entry {
@@ -296,27 +295,28 @@ void tst_Translations::nothingIsCut()
         const char* number;
     };
     const Entry entries[] = {
-        {dialog.ui.lineEdit_trade_baseCount, "50"}, // less than any order may be
-        {dialog.ui.lineEdit_trade_low, "800"},
-        {dialog.ui.lineEdit_trade_high, "700"}, // less than the one before
-        {dialog.ui.lineEdit_trade_low, "900"}, // more than the one before
+        {dialog->ui.lineEdit_trade_baseCount, "50"}, // less than any order may be
+        {dialog->ui.lineEdit_trade_low, "800"},
+        {dialog->ui.lineEdit_trade_high, "700"}, // less than the one before
+        {dialog->ui.lineEdit_trade_low, "900"}, // more than the one before
     };
     QSet<QString> tips;
     for (const Entry& entry : entries) {
         entry.field->setText(QLatin1String(entry.number));
         QFocusEvent leave(QEvent::FocusOut);
         QCoreApplication::sendEvent(entry.field, &leave);
-        if (dialog.tipLabel->isHidden())
+        if (dialog->tipLabel->isHidden())
             continue;
-        const QString text = dialog.tipLabel->text();
+        const QString text = dialog->tipLabel->text();
         tips += text;
-        check(QStringLiteral("tip"), text, widestLine(dialog.tipLabel->fontMetrics(), text),
-              dialog.tipLabel->contentsRect().width());
+        check(QStringLiteral("tip"), text, widestLine(dialog->tipLabel->fontMetrics(), text),
+              dialog->tipLabel->contentsRect().width());
     }
     QCOMPARE(tips.size(), 3);
 
-    for (const QTableWidget* table : {dialog.ui.tableWidget_shortcut, dialog.ui.tableWidget_credit,
-                                      dialog.ui.tableWidget_whole}) {
+    for (const QTableWidget* table :
+         {dialog->ui.tableWidget_shortcut, dialog->ui.tableWidget_credit,
+          dialog->ui.tableWidget_whole}) {
         QFont headerFont = table->horizontalHeader()->font();
         headerFont.setPixelSize(18);
         for (int column = 0; column < table->columnCount(); ++column) {
