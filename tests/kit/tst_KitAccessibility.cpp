@@ -12,6 +12,29 @@
 
 #include <memory>
 
+class tst_KitAccessibility : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { RecordingSkin::reset(); }
+    void theBarIsAListOfPageTabs();
+    void theStatesFollowTheMouse();
+    void aPressDoesWhatAClickDoes();
+    void aPressDropsTheMenuDown();
+    void itemsOutOfViewAreOffscreenButCanBePressed();
+    void theInterfacesOutliveTheItems();
+    void describesAWidgetThatIsGone();
+    void addingItemsMovesNoIdentity();
+    void theInterfacesDieWithTheBar();
+    void aDerivedBarIsABar();
+    void partsOfAnotherBarAreNotChildren();
+    void theListIsAListOfItems();
+    void theListFollowsTheMouse();
+    void aPressOnTheListSelectsAndTells();
+    void whatChangesIsTold();
+    void aFactoryEndsWithItsOwner();
+};
+
 namespace {
 
 QString text(const char* utf8) { return QString::fromUtf8(utf8); }
@@ -87,410 +110,401 @@ void QAccessible::updateAccessibility(QAccessibleEvent* event)
         notices() << Notice{event->type(), event->object(), event->child()};
 }
 
-class tst_KitAccessibility : public QObject {
-    Q_OBJECT
+void tst_KitAccessibility::theBarIsAListOfPageTabs()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.setWindowFlags(Qt::FramelessWindowHint);
+    bar.setGeometry(50, 60, 500, 40);
+    bar.setItemSize(100);
+    QMenu menu;
+    bar.AddNormalSwitch(text("系统设置"));
+    bar.AddNormalSwitch(text("交易设置"), {}, false, &menu);
+    bar.AddSeparator(10);
+    bar.AddNormalSwitch(text("outer"), {}, true);
+    bar.AddNormalSwitch(text("inner"), {}, true);
+    bar.show();
 
-private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
-
-    void theBarIsAListOfPageTabs()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.setWindowFlags(Qt::FramelessWindowHint);
-        bar.setGeometry(50, 60, 500, 40);
-        bar.setItemSize(100);
-        QMenu menu;
-        bar.AddNormalSwitch(text("系统设置"));
-        bar.AddNormalSwitch(text("交易设置"), {}, false, &menu);
-        bar.AddSeparator(10);
-        bar.AddNormalSwitch(text("outer"), {}, true);
-        bar.AddNormalSwitch(text("inner"), {}, true);
-        bar.show();
-
-        QAccessibleInterface* const list = of(bar);
-        QCOMPARE(list->role(), QAccessible::PageTabList);
-        QCOMPARE(list->object(), &bar);
-        QCOMPARE(list->childCount(), 5);
-        QCOMPARE(namesOf(list),
-                 (QStringList{text("系统设置"), text("交易设置"), QString(), text("inner"),
-                              text("outer")}));
-        const QRect places[] = {{50, 60, 100, 40},
-                                {150, 60, 100, 40},
-                                {250, 60, 10, 40},
-                                {350, 60, 100, 40},
-                                {450, 60, 100, 40}};
-        for (int i = 0; i < 5; ++i) {
-            QAccessibleInterface* const tab = list->child(i);
-            QVERIFY(tab && tab->isValid());
-            QCOMPARE(tab->rect(), places[i]);
-            QCOMPARE(tab->role(), i == 2 ? QAccessible::Separator : QAccessible::PageTab);
-            QCOMPARE(tab->parent(), list);
-            QCOMPARE(tab->window(), list->window());
-            QVERIFY(!tab->object());
-            QCOMPARE(tab->childCount(), 0);
-            QVERIFY(!tab->child(0));
-            QVERIFY(!tab->childAt(places[i].x() + 1, 70));
-            QCOMPARE(tab->indexOfChild(tab), -1);
-            QCOMPARE(list->indexOfChild(tab), i);
-            QCOMPARE(list->child(i), tab);
-            QCOMPARE(list->childAt(places[i].x() + 5, 80), tab);
-            QCOMPARE(bool(tab->state().hasPopup), i == 1);
-            QCOMPARE(bool(tab->state().selectable), i != 2);
-            QVERIFY(!tab->state().offscreen);
-            QVERIFY(!tab->state().invisible);
-            QVERIFY(!tab->state().disabled);
-            QCOMPARE(tab->text(QAccessible::Description), QString());
-            QCOMPARE(tab->text(QAccessible::Value), QString());
-            tab->setText(QAccessible::Name, text("not to be"));
-        }
-        QCOMPARE(nameOf(list->child(0)), text("系统设置"));
-        QVERIFY(!list->child(-1));
-        QVERIFY(!list->child(5));
-        QVERIFY(!list->childAt(300, 80));
-        QVERIFY(!list->childAt(49, 80));
-        QVERIFY(!list->childAt(60, 101));
-        QCOMPARE(list->indexOfChild(list), -1);
+    QAccessibleInterface* const list = of(bar);
+    QCOMPARE(list->role(), QAccessible::PageTabList);
+    QCOMPARE(list->object(), &bar);
+    QCOMPARE(list->childCount(), 5);
+    QCOMPARE(
+        namesOf(list),
+        (QStringList{text("系统设置"), text("交易设置"), QString(), text("inner"), text("outer")}));
+    const QRect places[] = {{50, 60, 100, 40},
+                            {150, 60, 100, 40},
+                            {250, 60, 10, 40},
+                            {350, 60, 100, 40},
+                            {450, 60, 100, 40}};
+    for (int i = 0; i < 5; ++i) {
+        QAccessibleInterface* const tab = list->child(i);
+        QVERIFY(tab && tab->isValid());
+        QCOMPARE(tab->rect(), places[i]);
+        QCOMPARE(tab->role(), i == 2 ? QAccessible::Separator : QAccessible::PageTab);
+        QCOMPARE(tab->parent(), list);
+        QCOMPARE(tab->window(), list->window());
+        QVERIFY(!tab->object());
+        QCOMPARE(tab->childCount(), 0);
+        QVERIFY(!tab->child(0));
+        QVERIFY(!tab->childAt(places[i].x() + 1, 70));
+        QCOMPARE(tab->indexOfChild(tab), -1);
+        QCOMPARE(list->indexOfChild(tab), i);
+        QCOMPARE(list->child(i), tab);
+        QCOMPARE(list->childAt(places[i].x() + 5, 80), tab);
+        QCOMPARE(bool(tab->state().hasPopup), i == 1);
+        QCOMPARE(bool(tab->state().selectable), i != 2);
+        QVERIFY(!tab->state().offscreen);
+        QVERIFY(!tab->state().invisible);
+        QVERIFY(!tab->state().disabled);
+        QCOMPARE(tab->text(QAccessible::Description), QString());
+        QCOMPARE(tab->text(QAccessible::Value), QString());
+        tab->setText(QAccessible::Name, text("not to be"));
     }
+    QCOMPARE(nameOf(list->child(0)), text("系统设置"));
+    QVERIFY(!list->child(-1));
+    QVERIFY(!list->child(5));
+    QVERIFY(!list->childAt(300, 80));
+    QVERIFY(!list->childAt(49, 80));
+    QVERIFY(!list->childAt(60, 101));
+    QCOMPARE(list->indexOfChild(list), -1);
+}
 
-    void theStatesFollowTheMouse()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(300, 40);
-        bar.setItemSize(100);
-        bar.AddNormalSwitch(text("a"));
-        bar.AddNormalSwitch(text("b"));
-        bar.AddNormalSwitch(text("e"), {}, true);
-        QAccessibleInterface* const list = of(bar);
-        const auto states = [&] {
-            QString all;
-            for (int i = 0; i < 3; ++i) {
-                const QAccessible::State state = list->child(i)->state();
-                all += QLatin1Char(state.selected ? 's' : '-');
-                all += QLatin1Char(state.hotTracked ? 'h' : '-');
-            }
-            return all;
-        };
-        QCOMPARE(states(), text("------"));
-        QVERIFY(list->child(0)->state().invisible);
-        QTest::mouseMove(&bar, {150, 20});
-        QTest::mousePress(&bar, Qt::LeftButton, {}, {50, 20});
-        bar.hoverItem = bar.items[1];
-        QCOMPARE(states(), text("s--h--"));
-        QTest::mousePress(&bar, Qt::LeftButton, {}, {250, 20});
-        QCOMPARE(states(), text("---hs-"));
-        QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(&bar, &leave);
-        QCOMPARE(states(), text("----s-"));
-        bar.SetCurSel(bar.items[1], false);
-        QCOMPARE(states(), text("--s---"));
-        bar.setEnabled(false);
-        QVERIFY(list->child(0)->state().disabled);
-    }
-
-    void aPressDoesWhatAClickDoes()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(400, 40);
-        QStringList log;
-        bar.AddNormalSwitch(text("a"), [&] { log << text("a"); });
-        const auto b = bar.AddNormalSwitch(text("b"), [&] { log << text("b"); });
-        const auto separator = bar.AddSeparator(10);
-        separator->callback = [&] { log << text("separator"); };
-        const auto end = bar.AddNormalSwitch(
-            text("e"), [&] { log << text("e"); }, true);
-        QAccessibleInterface* const list = of(bar);
-        const QString press = QAccessibleActionInterface::pressAction();
-
-        QCOMPARE(list->child(1)->actionInterface()->actionNames(), QStringList{press});
-        QCOMPARE(list->child(1)->actionInterface()->keyBindingsForAction(press), QStringList());
-        pressPart(list->child(1));
-        QCOMPARE(bar.curSel, b);
-        QCOMPARE(log, QStringList{text("b")});
-        pressPart(list->child(3));
-        QCOMPARE(bar.curSel, end);
-        QCOMPARE(log, (QStringList{text("b"), text("e")}));
-        // The one selected already runs again, as by a click.
-        pressPart(list->child(3));
-        QCOMPARE(log.size(), 3);
-
-        list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
-        QCOMPARE(list->child(2)->actionInterface()->actionNames(), QStringList());
-        pressPart(list->child(2));
-        bar.setEnabled(false);
-        QCOMPARE(list->child(0)->actionInterface()->actionNames(), QStringList());
-        pressPart(list->child(0));
-        QCOMPARE(bar.curSel, end);
-        QCOMPARE(log.size(), 3);
-    }
-
-    void aPressDropsTheMenuDown()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.setWindowFlags(Qt::FramelessWindowHint);
-        bar.setGeometry(50, 60, 300, 40);
-        bar.show();
-        QMenu menu;
-        menu.addAction(text("x"));
-        bar.AddNormalSwitch(text("a"), {}, false, &menu);
-        pressPart(of(bar)->child(0));
-        QVERIFY(menu.isVisible());
-        QCOMPARE(menu.pos(), QPoint(50, 100));
-        menu.hide();
-    }
-
-    void itemsOutOfViewAreOffscreenButCanBePressed()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(138, 40);
-        bar.setItemSize(50);
-        int runs = 0;
-        for (int i = 0; i < 4; ++i)
-            bar.AddNormalSwitch(QString::number(i), [&] { ++runs; });
-        bar.DoClickMoreItem(false);
-        QAccessibleInterface* const list = of(bar);
-        const bool expected[] = {true, false, false, true};
-        for (int i = 0; i < 4; ++i)
-            QCOMPARE(bool(list->child(i)->state().offscreen), expected[i]);
-        // The scroll buttons are no tabs, and looking at them does not scroll.
-        const QPoint button = bar.mapToGlobal({130, 20});
-        QVERIFY(!list->childAt(button.x(), button.y()));
-        QCOMPARE(bar.firstIndex, 1);
-        pressPart(list->child(3));
-        QCOMPARE(runs, 1);
-        QCOMPARE(bar.curSel, bar.items[3]);
-    }
-
-    void theInterfacesOutliveTheItems()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(400, 40);
-        int runs = 0;
-        bar.AddNormalSwitch(text("a"), [&] { ++runs; });
-        bar.AddNormalSwitch(
-            text("e"), [&] { ++runs; }, true);
-        QAccessibleInterface* const list = of(bar);
-        QAccessibleInterface* const a = list->child(0);
-        QAccessibleInterface* const e = list->child(1);
-        bar.ClearAll();
-        QCOMPARE(list->childCount(), 0);
-        for (QAccessibleInterface* const gone : {a, e}) {
-            QVERIFY(!gone->isValid());
-            QCOMPARE(nameOf(gone), QString());
-            QCOMPARE(gone->rect(), QRect());
-            QCOMPARE(gone->role(), QAccessible::NoRole);
-            QVERIFY(gone->state().invalid);
-            QVERIFY(!gone->state().selected);
-            QCOMPARE(gone->actionInterface()->actionNames(), QStringList());
-            pressPart(gone);
-            QCOMPARE(list->indexOfChild(gone), -1);
-        }
-        QCOMPARE(runs, 0);
-
-        // The next item in the place is told by the same interface.
-        bar.AddNormalSwitch(text("new"));
-        QVERIFY(a->isValid());
-        QCOMPARE(nameOf(a), text("new"));
-        QCOMPARE(list->child(0), a);
-        QVERIFY(!e->isValid());
-    }
-
-    // Assistive technology may hold on to what describes a widget that is gone.
-    void describesAWidgetThatIsGone()
-    {
-        auto list = std::make_unique<CNavWidget>();
-        list->SetBtnList({text("a"), text("b")});
-        list->resize(100, 200);
-        NavWidgetAccessible ofList(list.get());
-        auto bar = std::make_unique<Bar>(nullptr, Qt::Horizontal, QMargins());
-        bar->resize(400, 40);
-        bar->AddNormalSwitch(text("a"));
-        SwitchExAccessible ofBar(bar.get());
-        for (PartsAccessible* const whole :
-             std::initializer_list<PartsAccessible*>{&ofList, &ofBar}) {
-            QVERIFY(whole->isValid());
-            QVERIFY(whole->childCount() > 0);
-            const QPoint inside = whole->widget()->mapToGlobal(QPoint(5, 5));
-            QVERIFY(whole->childAt(inside.x(), inside.y()));
-        }
-        list.reset();
-        bar.reset();
-        for (const PartsAccessible* const whole :
-             std::initializer_list<const PartsAccessible*>{&ofList, &ofBar}) {
-            QVERIFY(!whole->isValid());
-            QCOMPARE(whole->childCount(), 0);
-            QVERIFY(!whole->child(0));
-            QVERIFY(!whole->childAt(5, 5));
-        }
-    }
-
-    void addingItemsMovesNoIdentity()
-    {
-        Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(900, 40);
-        bar.AddNormalSwitch(text("outer"), {}, true);
-        QAccessibleInterface* const list = of(bar);
-        QAccessibleInterface* const outer = list->child(0);
-        bar.AddNormalSwitch(text("a"));
-        bar.AddNormalSwitch(text("inner"), {}, true);
-        QCOMPARE(nameOf(outer), text("outer"));
-        QCOMPARE(list->indexOfChild(outer), 2);
-        QCOMPARE(list->child(2), outer);
-    }
-
-    void theInterfacesDieWithTheBar()
-    {
-        QAccessible::Id whole = 0;
-        QAccessible::Id part = 0;
-        {
-            Bar bar(nullptr, Qt::Horizontal, QMargins());
-            bar.AddNormalSwitch(text("a"));
-            whole = QAccessible::uniqueId(of(bar));
-            part = QAccessible::uniqueId(of(bar)->child(0));
-            QCOMPARE(QAccessible::accessibleInterface(part), of(bar)->child(0));
-        }
-        QVERIFY(!QAccessible::accessibleInterface(whole));
-        QVERIFY(!QAccessible::accessibleInterface(part));
-    }
-
-    void aDerivedBarIsABar()
-    {
-        DerivedBar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.AddNormalSwitch(text("a"));
-        QCOMPARE(of(bar)->role(), QAccessible::PageTabList);
-        QCOMPARE(of(bar)->childCount(), 1);
-    }
-
-    void partsOfAnotherBarAreNotChildren()
-    {
-        Bar one(nullptr, Qt::Horizontal, QMargins());
-        one.AddNormalSwitch(text("a"));
-        Bar other(nullptr, Qt::Horizontal, QMargins());
-        other.AddNormalSwitch(text("b"));
-        QCOMPARE(of(one)->indexOfChild(of(other)->child(0)), -1);
-        QCOMPARE(of(one)->indexOfChild(nullptr), -1);
-    }
-
-    void theListIsAListOfItems()
-    {
-        CNavWidget nav;
-        nav.setWindowFlags(Qt::FramelessWindowHint);
-        nav.setGeometry(30, 40, 120, 400);
-        nav.SetBtnList({text("基础设置"), text("联动设置"), text("界面设置")});
-        nav.show();
-        QAccessibleInterface* const list = of(nav);
-        QCOMPARE(list->role(), QAccessible::List);
-        QCOMPARE(namesOf(list),
-                 (QStringList{text("基础设置"), text("联动设置"), text("界面设置")}));
-        const int tops[] = {40, 90, 140};
+void tst_KitAccessibility::theStatesFollowTheMouse()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(300, 40);
+    bar.setItemSize(100);
+    bar.AddNormalSwitch(text("a"));
+    bar.AddNormalSwitch(text("b"));
+    bar.AddNormalSwitch(text("e"), {}, true);
+    QAccessibleInterface* const list = of(bar);
+    const auto states = [&] {
+        QString all;
         for (int i = 0; i < 3; ++i) {
-            QAccessibleInterface* const entry = list->child(i);
-            QCOMPARE(entry->role(), QAccessible::ListItem);
-            QCOMPARE(entry->rect(), QRect(30, tops[i], 120, 50));
-            QCOMPARE(list->childAt(35, tops[i] + 10), entry);
-            QCOMPARE(list->indexOfChild(entry), i);
-            QVERIFY(entry->state().selectable);
-            QCOMPARE(bool(entry->state().selected), i == 0);
-            QVERIFY(!entry->state().hotTracked);
+            const QAccessible::State state = list->child(i)->state();
+            all += QLatin1Char(state.selected ? 's' : '-');
+            all += QLatin1Char(state.hotTracked ? 'h' : '-');
         }
-        QVERIFY(!list->childAt(35, 40)); // the dead row of pixels
-        QVERIFY(!list->childAt(35, 190));
-        QVERIFY(!list->childAt(151, 60));
-        QVERIFY(!list->child(3));
-    }
+        return all;
+    };
+    QCOMPARE(states(), text("------"));
+    QVERIFY(list->child(0)->state().invisible);
+    QTest::mouseMove(&bar, {150, 20});
+    QTest::mousePress(&bar, Qt::LeftButton, {}, {50, 20});
+    bar.hoverItem = bar.items[1];
+    QCOMPARE(states(), text("s--h--"));
+    QTest::mousePress(&bar, Qt::LeftButton, {}, {250, 20});
+    QCOMPARE(states(), text("---hs-"));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&bar, &leave);
+    QCOMPARE(states(), text("----s-"));
+    bar.SetCurSel(bar.items[1], false);
+    QCOMPARE(states(), text("--s---"));
+    bar.setEnabled(false);
+    QVERIFY(list->child(0)->state().disabled);
+}
 
-    void theListFollowsTheMouse()
-    {
-        CNavWidget nav;
-        nav.resize(120, 400);
-        nav.SetBtnList({text("a"), text("b"), text("c")});
-        QAccessibleInterface* const list = of(nav);
-        QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 60});
-        nav.hover = 2;
-        QVERIFY(list->child(1)->state().selected);
-        QVERIFY(!list->child(0)->state().selected);
-        QVERIFY(list->child(2)->state().hotTracked);
-        QVERIFY(!list->child(1)->state().hotTracked);
-        nav.hover = 1;
-        QVERIFY(!list->child(1)->state().hotTracked);
-        QVERIFY(!list->child(2)->state().hotTracked);
-    }
+void tst_KitAccessibility::aPressDoesWhatAClickDoes()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(400, 40);
+    QStringList log;
+    bar.AddNormalSwitch(text("a"), [&] { log << text("a"); });
+    const auto b = bar.AddNormalSwitch(text("b"), [&] { log << text("b"); });
+    const auto separator = bar.AddSeparator(10);
+    separator->callback = [&] { log << text("separator"); };
+    const auto end = bar.AddNormalSwitch(
+        text("e"), [&] { log << text("e"); }, true);
+    QAccessibleInterface* const list = of(bar);
+    const QString press = QAccessibleActionInterface::pressAction();
 
-    void aPressOnTheListSelectsAndTells()
-    {
-        CNavWidget nav;
-        nav.resize(120, 400);
-        nav.SetBtnList({text("a"), text("b"), text("c")});
-        const QSignalSpy clicked(&nav, &CNavWidget::signal_onclicked);
-        QAccessibleInterface* const list = of(nav);
-        QAccessibleInterface* const last = list->child(2);
-        QCOMPARE(last->actionInterface()->actionNames(),
-                 QStringList{QAccessibleActionInterface::pressAction()});
-        pressPart(last);
-        QCOMPARE(nav.selected, 2);
-        QCOMPARE(nav.hover, 0);
-        QCOMPARE(clicked.size(), 1);
-        QCOMPARE(clicked.last().first().toInt(), 2);
-        pressPart(last);
-        QCOMPARE(clicked.size(), 2);
-        nav.setEnabled(false);
-        pressPart(list->child(0));
-        nav.setEnabled(true);
-        nav.SetBtnList({text("a")});
-        QVERIFY(!last->isValid());
-        pressPart(last);
-        QCOMPARE(clicked.size(), 2);
-        QCOMPARE(nav.selected, 2);
-        QCOMPARE(list->childCount(), 1);
-    }
+    QCOMPARE(list->child(1)->actionInterface()->actionNames(), QStringList{press});
+    QCOMPARE(list->child(1)->actionInterface()->keyBindingsForAction(press), QStringList());
+    pressPart(list->child(1));
+    QCOMPARE(bar.curSel, b);
+    QCOMPARE(log, QStringList{text("b")});
+    pressPart(list->child(3));
+    QCOMPARE(bar.curSel, end);
+    QCOMPARE(log, (QStringList{text("b"), text("e")}));
+    // The one selected already runs again, as by a click.
+    pressPart(list->child(3));
+    QCOMPARE(log.size(), 3);
 
-    void whatChangesIsTold()
+    list->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    QCOMPARE(list->child(2)->actionInterface()->actionNames(), QStringList());
+    pressPart(list->child(2));
+    bar.setEnabled(false);
+    QCOMPARE(list->child(0)->actionInterface()->actionNames(), QStringList());
+    pressPart(list->child(0));
+    QCOMPARE(bar.curSel, end);
+    QCOMPARE(log.size(), 3);
+}
+
+void tst_KitAccessibility::aPressDropsTheMenuDown()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.setWindowFlags(Qt::FramelessWindowHint);
+    bar.setGeometry(50, 60, 300, 40);
+    bar.show();
+    QMenu menu;
+    menu.addAction(text("x"));
+    bar.AddNormalSwitch(text("a"), {}, false, &menu);
+    pressPart(of(bar)->child(0));
+    QVERIFY(menu.isVisible());
+    QCOMPARE(menu.pos(), QPoint(50, 100));
+    menu.hide();
+}
+
+void tst_KitAccessibility::itemsOutOfViewAreOffscreenButCanBePressed()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(138, 40);
+    bar.setItemSize(50);
+    int runs = 0;
+    for (int i = 0; i < 4; ++i)
+        bar.AddNormalSwitch(QString::number(i), [&] { ++runs; });
+    bar.DoClickMoreItem(false);
+    QAccessibleInterface* const list = of(bar);
+    const bool expected[] = {true, false, false, true};
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(bool(list->child(i)->state().offscreen), expected[i]);
+    // The scroll buttons are no tabs, and looking at them does not scroll.
+    const QPoint button = bar.mapToGlobal({130, 20});
+    QVERIFY(!list->childAt(button.x(), button.y()));
+    QCOMPARE(bar.firstIndex, 1);
+    pressPart(list->child(3));
+    QCOMPARE(runs, 1);
+    QCOMPARE(bar.curSel, bar.items[3]);
+}
+
+void tst_KitAccessibility::theInterfacesOutliveTheItems()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(400, 40);
+    int runs = 0;
+    bar.AddNormalSwitch(text("a"), [&] { ++runs; });
+    bar.AddNormalSwitch(
+        text("e"), [&] { ++runs; }, true);
+    QAccessibleInterface* const list = of(bar);
+    QAccessibleInterface* const a = list->child(0);
+    QAccessibleInterface* const e = list->child(1);
+    bar.ClearAll();
+    QCOMPARE(list->childCount(), 0);
+    for (QAccessibleInterface* const gone : {a, e}) {
+        QVERIFY(!gone->isValid());
+        QCOMPARE(nameOf(gone), QString());
+        QCOMPARE(gone->rect(), QRect());
+        QCOMPARE(gone->role(), QAccessible::NoRole);
+        QVERIFY(gone->state().invalid);
+        QVERIFY(!gone->state().selected);
+        QCOMPARE(gone->actionInterface()->actionNames(), QStringList());
+        pressPart(gone);
+        QCOMPARE(list->indexOfChild(gone), -1);
+    }
+    QCOMPARE(runs, 0);
+
+    // The next item in the place is told by the same interface.
+    bar.AddNormalSwitch(text("new"));
+    QVERIFY(a->isValid());
+    QCOMPARE(nameOf(a), text("new"));
+    QCOMPARE(list->child(0), a);
+    QVERIFY(!e->isValid());
+}
+
+// Assistive technology may hold on to what describes a widget that is gone.
+void tst_KitAccessibility::describesAWidgetThatIsGone()
+{
+    auto list = std::make_unique<CNavWidget>();
+    list->SetBtnList({text("a"), text("b")});
+    list->resize(100, 200);
+    NavWidgetAccessible ofList(list.get());
+    auto bar = std::make_unique<Bar>(nullptr, Qt::Horizontal, QMargins());
+    bar->resize(400, 40);
+    bar->AddNormalSwitch(text("a"));
+    SwitchExAccessible ofBar(bar.get());
+    for (PartsAccessible* const whole : std::initializer_list<PartsAccessible*>{&ofList, &ofBar}) {
+        QVERIFY(whole->isValid());
+        QVERIFY(whole->childCount() > 0);
+        const QPoint inside = whole->widget()->mapToGlobal(QPoint(5, 5));
+        QVERIFY(whole->childAt(inside.x(), inside.y()));
+    }
+    list.reset();
+    bar.reset();
+    for (const PartsAccessible* const whole :
+         std::initializer_list<const PartsAccessible*>{&ofList, &ofBar}) {
+        QVERIFY(!whole->isValid());
+        QCOMPARE(whole->childCount(), 0);
+        QVERIFY(!whole->child(0));
+        QVERIFY(!whole->childAt(5, 5));
+    }
+}
+
+void tst_KitAccessibility::addingItemsMovesNoIdentity()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(900, 40);
+    bar.AddNormalSwitch(text("outer"), {}, true);
+    QAccessibleInterface* const list = of(bar);
+    QAccessibleInterface* const outer = list->child(0);
+    bar.AddNormalSwitch(text("a"));
+    bar.AddNormalSwitch(text("inner"), {}, true);
+    QCOMPARE(nameOf(outer), text("outer"));
+    QCOMPARE(list->indexOfChild(outer), 2);
+    QCOMPARE(list->child(2), outer);
+}
+
+void tst_KitAccessibility::theInterfacesDieWithTheBar()
+{
+    QAccessible::Id whole = 0;
+    QAccessible::Id part = 0;
     {
-        someoneListens = true;
         Bar bar(nullptr, Qt::Horizontal, QMargins());
-        bar.resize(400, 40);
-        const auto a = bar.AddNormalSwitch(text("a"));
-        bar.AddNormalSwitch(text("b"));
-        const auto outer = bar.AddNormalSwitch(text("outer"), {}, true);
-        const auto inner = bar.AddNormalSwitch(text("inner"), {}, true);
-        notices().clear();
-        bar.SetCurSel(outer, false);
-        QTest::mousePress(&bar, Qt::LeftButton, {}, {60, 20});
-        bar.SetItemLabel(a, text("a2"));
-        QVERIFY(bar.ModifySwitch(text("b"), text("b2"), {}));
-        QVERIFY(bar.ModifyImageSwitch(text("inner"), text("inner2"), {}, {}, {}));
-        QCOMPARE(inner->label, text("inner2"));
-        CNavWidget nav;
-        nav.resize(120, 400);
-        nav.SetBtnList({text("a"), text("b")});
-        QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 60});
-        QCOMPARE(notices(),
-                 (QVector<Notice>{{QAccessible::Selection, &bar, 3},
-                                  {QAccessible::Selection, &bar, 1},
-                                  {QAccessible::NameChanged, &bar, 0},
-                                  {QAccessible::NameChanged, &bar, 1},
-                                  {QAccessible::NameChanged, &bar, 2},
-                                  {QAccessible::Selection, &nav, 1}}));
-        notices().clear();
-        someoneListens = false;
-        bar.SetCurSel(a, false);
-        QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 10});
-        QVERIFY(notices().isEmpty());
+        bar.AddNormalSwitch(text("a"));
+        whole = QAccessible::uniqueId(of(bar));
+        part = QAccessible::uniqueId(of(bar)->child(0));
+        QCOMPARE(QAccessible::accessibleInterface(part), of(bar)->child(0));
     }
+    QVERIFY(!QAccessible::accessibleInterface(whole));
+    QVERIFY(!QAccessible::accessibleInterface(part));
+}
 
-    void aFactoryEndsWithItsOwner()
+void tst_KitAccessibility::aDerivedBarIsABar()
+{
+    DerivedBar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.AddNormalSwitch(text("a"));
+    QCOMPARE(of(bar)->role(), QAccessible::PageTabList);
+    QCOMPARE(of(bar)->childCount(), 1);
+}
+
+void tst_KitAccessibility::partsOfAnotherBarAreNotChildren()
+{
+    Bar one(nullptr, Qt::Horizontal, QMargins());
+    one.AddNormalSwitch(text("a"));
+    Bar other(nullptr, Qt::Horizontal, QMargins());
+    other.AddNormalSwitch(text("b"));
+    QCOMPARE(of(one)->indexOfChild(of(other)->child(0)), -1);
+    QCOMPARE(of(one)->indexOfChild(nullptr), -1);
+}
+
+void tst_KitAccessibility::theListIsAListOfItems()
+{
+    CNavWidget nav;
+    nav.setWindowFlags(Qt::FramelessWindowHint);
+    nav.setGeometry(30, 40, 120, 400);
+    nav.SetBtnList({text("基础设置"), text("联动设置"), text("界面设置")});
+    nav.show();
+    QAccessibleInterface* const list = of(nav);
+    QCOMPARE(list->role(), QAccessible::List);
+    QCOMPARE(namesOf(list), (QStringList{text("基础设置"), text("联动设置"), text("界面设置")}));
+    const int tops[] = {40, 90, 140};
+    for (int i = 0; i < 3; ++i) {
+        QAccessibleInterface* const entry = list->child(i);
+        QCOMPARE(entry->role(), QAccessible::ListItem);
+        QCOMPARE(entry->rect(), QRect(30, tops[i], 120, 50));
+        QCOMPARE(list->childAt(35, tops[i] + 10), entry);
+        QCOMPARE(list->indexOfChild(entry), i);
+        QVERIFY(entry->state().selectable);
+        QCOMPARE(bool(entry->state().selected), i == 0);
+        QVERIFY(!entry->state().hotTracked);
+    }
+    QVERIFY(!list->childAt(35, 40)); // the dead row of pixels
+    QVERIFY(!list->childAt(35, 190));
+    QVERIFY(!list->childAt(151, 60));
+    QVERIFY(!list->child(3));
+}
+
+void tst_KitAccessibility::theListFollowsTheMouse()
+{
+    CNavWidget nav;
+    nav.resize(120, 400);
+    nav.SetBtnList({text("a"), text("b"), text("c")});
+    QAccessibleInterface* const list = of(nav);
+    QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 60});
+    nav.hover = 2;
+    QVERIFY(list->child(1)->state().selected);
+    QVERIFY(!list->child(0)->state().selected);
+    QVERIFY(list->child(2)->state().hotTracked);
+    QVERIFY(!list->child(1)->state().hotTracked);
+    nav.hover = 1;
+    QVERIFY(!list->child(1)->state().hotTracked);
+    QVERIFY(!list->child(2)->state().hotTracked);
+}
+
+void tst_KitAccessibility::aPressOnTheListSelectsAndTells()
+{
+    CNavWidget nav;
+    nav.resize(120, 400);
+    nav.SetBtnList({text("a"), text("b"), text("c")});
+    const QSignalSpy clicked(&nav, &CNavWidget::signal_onclicked);
+    QAccessibleInterface* const list = of(nav);
+    QAccessibleInterface* const last = list->child(2);
+    QCOMPARE(last->actionInterface()->actionNames(),
+             QStringList{QAccessibleActionInterface::pressAction()});
+    pressPart(last);
+    QCOMPARE(nav.selected, 2);
+    QCOMPARE(nav.hover, 0);
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(clicked.last().first().toInt(), 2);
+    pressPart(last);
+    QCOMPARE(clicked.size(), 2);
+    nav.setEnabled(false);
+    pressPart(list->child(0));
+    nav.setEnabled(true);
+    nav.SetBtnList({text("a")});
+    QVERIFY(!last->isValid());
+    pressPart(last);
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(nav.selected, 2);
+    QCOMPARE(list->childCount(), 1);
+}
+
+void tst_KitAccessibility::whatChangesIsTold()
+{
+    someoneListens = true;
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(400, 40);
+    const auto a = bar.AddNormalSwitch(text("a"));
+    bar.AddNormalSwitch(text("b"));
+    const auto outer = bar.AddNormalSwitch(text("outer"), {}, true);
+    const auto inner = bar.AddNormalSwitch(text("inner"), {}, true);
+    notices().clear();
+    bar.SetCurSel(outer, false);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, {60, 20});
+    bar.SetItemLabel(a, text("a2"));
+    QVERIFY(bar.ModifySwitch(text("b"), text("b2"), {}));
+    QVERIFY(bar.ModifyImageSwitch(text("inner"), text("inner2"), {}, {}, {}));
+    QCOMPARE(inner->label, text("inner2"));
+    CNavWidget nav;
+    nav.resize(120, 400);
+    nav.SetBtnList({text("a"), text("b")});
+    QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 60});
+    QCOMPARE(notices(),
+             (QVector<Notice>{{QAccessible::Selection, &bar, 3},
+                              {QAccessible::Selection, &bar, 1},
+                              {QAccessible::NameChanged, &bar, 0},
+                              {QAccessible::NameChanged, &bar, 1},
+                              {QAccessible::NameChanged, &bar, 2},
+                              {QAccessible::Selection, &nav, 1}}));
+    notices().clear();
+    someoneListens = false;
+    bar.SetCurSel(a, false);
+    QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 10});
+    QVERIFY(notices().isEmpty());
+}
+
+void tst_KitAccessibility::aFactoryEndsWithItsOwner()
+{
     {
-        {
-            const AccessibleFactory owner(&countingFactory);
-            QWidget widget;
-            of(widget);
-            QVERIFY(factoryCalls > 0);
-        }
-        factoryCalls = 0;
+        const AccessibleFactory owner(&countingFactory);
         QWidget widget;
         of(widget);
-        QCOMPARE(factoryCalls, 0);
+        QVERIFY(factoryCalls > 0);
     }
-};
+    factoryCalls = 0;
+    QWidget widget;
+    of(widget);
+    QCOMPARE(factoryCalls, 0);
+}
 
 TRADECONFIG_TEST_MAIN(tst_KitAccessibility)
 

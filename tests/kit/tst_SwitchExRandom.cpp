@@ -7,6 +7,14 @@
 #include <cmath>
 #include <vector>
 
+class tst_SwitchExRandom : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void operations_data();
+    void operations();
+};
+
 namespace {
 
 enum { X = 0, Y = 1 };
@@ -259,267 +267,260 @@ bool same(const QRectF& rect, const Cell& cell)
 
 } // namespace
 
-class tst_SwitchExRandom : public QObject {
-    Q_OBJECT
+void tst_SwitchExRandom::operations_data()
+{
+    QTest::addColumn<int>("additions"); // out of 100 operations, about
+    QTest::addColumn<int>("length"); // of the longest bar
+    QTest::addColumn<bool>("odd"); // extents of zero and below, equal division
 
-private Q_SLOTS:
-    void operations_data()
-    {
-        QTest::addColumn<int>("additions"); // out of 100 operations, about
-        QTest::addColumn<int>("length"); // of the longest bar
-        QTest::addColumn<bool>("odd"); // extents of zero and below, equal division
+    QTest::newRow("few items") << 15 << 700 << true;
+    QTest::newRow("many items") << 60 << 700 << true;
+    QTest::newRow("long bar") << 70 << 6000 << true;
+    QTest::newRow("plain, many items") << 60 << 700 << false;
+    QTest::newRow("plain, long bar") << 80 << 6000 << false;
+}
 
-        QTest::newRow("few items") << 15 << 700 << true;
-        QTest::newRow("many items") << 60 << 700 << true;
-        QTest::newRow("long bar") << 70 << 6000 << true;
-        QTest::newRow("plain, many items") << 60 << 700 << false;
-        QTest::newRow("plain, long bar") << 80 << 6000 << false;
-    }
+void tst_SwitchExRandom::operations()
+{
+    QFETCH(int, additions);
+    QFETCH(int, length);
+    QFETCH(bool, odd);
+    const auto given = qEnvironmentVariableIntValue("SWITCH_SEED");
+    const quint32 seed = given ? quint32(given) : QRandomGenerator::system()->generate();
+    qInfo("SWITCH_SEED=%u", seed);
+    QRandomGenerator random(seed);
 
-    void operations()
-    {
-        QFETCH(int, additions);
-        QFETCH(int, length);
-        QFETCH(bool, odd);
-        const auto given = qEnvironmentVariableIntValue("SWITCH_SEED");
-        const quint32 seed = given ? quint32(given) : QRandomGenerator::system()->generate();
-        qInfo("SWITCH_SEED=%u", seed);
-        QRandomGenerator random(seed);
+    RecordingSkin::reset();
+    RecordingSkin::setTextSize([](const QString&, const QString& label) {
+        const auto size = textSize(label.toStdString());
+        return QSizeF(size[X], size[Y]);
+    });
+    const Pair<double> images[]{{{24.75, 20.5}}, {{0, 0}}, {{70, 33.25}}};
+    for (int i = 0; i < 3; ++i)
+        RecordingSkin::setBitmapSize(QStringLiteral("image%1").arg(i),
+                                     QSizeF(images[i][X], images[i][Y]));
 
-        RecordingSkin::reset();
-        RecordingSkin::setTextSize([](const QString&, const QString& label) {
-            const auto size = textSize(label.toStdString());
-            return QSizeF(size[X], size[Y]);
-        });
-        const Pair<double> images[]{{{24.75, 20.5}}, {{0, 0}}, {{70, 33.25}}};
-        for (int i = 0; i < 3; ++i)
-            RecordingSkin::setBitmapSize(QStringLiteral("image%1").arg(i),
-                                         QSizeF(images[i][X], images[i][Y]));
+    QWidget parent;
+    parent.resize(length, length);
+    parent.show();
+    CSwitchEx bar(&parent, Qt::Horizontal, QMargins());
+    bar.resize(300, 40);
+    bar.show();
+    Model model;
+    QHash<SwitchItem*, int> ids;
+    std::vector<int> log;
+    int step = 0;
 
-        QWidget parent;
-        parent.resize(length, length);
-        parent.show();
-        CSwitchEx bar(&parent, Qt::Horizontal, QMargins());
-        bar.resize(300, 40);
-        bar.show();
-        Model model;
-        QHash<SwitchItem*, int> ids;
-        std::vector<int> log;
-        int step = 0;
+    const auto below = [&](int bound) { return int(random.bounded(bound)); };
+    const auto label = [&] { return std::string(std::size_t(below(9)), char('a' + below(3))); };
+    const auto point = [&] {
+        // Whole and half pixels meet an edge now and then; where rounding would decide about
+        // that, the points lie beside them.
+        const double offset = model.rounded ? 0.0371 : 0;
+        Pair<double> at;
+        at[model.along] = below(2 * model.widget[model.along] + 40) / 2.0 - 10 + offset;
+        at[model.across()] = below(140) / 2.0 - 5 + offset;
+        return at;
+    };
+    const auto mouse = [&bar](QEvent::Type type, Pair<double> at) {
+        const bool move = type == QEvent::MouseMove;
+        QMouseEvent event(type, QPointF(at[X], at[Y]), move ? Qt::NoButton : Qt::LeftButton,
+                          move ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&bar, &event);
+    };
 
-        const auto below = [&](int bound) { return int(random.bounded(bound)); };
-        const auto label = [&] { return std::string(std::size_t(below(9)), char('a' + below(3))); };
-        const auto point = [&] {
-            // Whole and half pixels meet an edge now and then; where rounding would decide about
-            // that, the points lie beside them.
-            const double offset = model.rounded ? 0.0371 : 0;
-            Pair<double> at;
-            at[model.along] = below(2 * model.widget[model.along] + 40) / 2.0 - 10 + offset;
-            at[model.across()] = below(140) / 2.0 - 5 + offset;
-            return at;
-        };
-        const auto mouse = [&bar](QEvent::Type type, Pair<double> at) {
-            const bool move = type == QEvent::MouseMove;
-            QMouseEvent event(type, QPointF(at[X], at[Y]), move ? Qt::NoButton : Qt::LeftButton,
-                              move ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&bar, &event);
-        };
-
-        const auto addOne = [&] {
-            const bool atEnd = below(4) == 0;
-            Entry entry;
-            entry.id = model.nextId++;
-            entry.action = entry.id;
-            const auto action = [&log, id = entry.id] { log.push_back(id); };
-            SwitchItem* item = nullptr;
-            const int kind = below(10);
-            if (kind < 2) {
-                entry.separator = true;
-                entry.action = 0;
-                const int thickness = odd ? below(24) - 3 : 1 + below(20);
-                entry.cell.size[model.along] = thickness;
-                entry.cell.size[model.across()] = model.widget[model.across()];
-                item = bar.AddSeparator(thickness, atEnd);
-            } else if (kind < 4) {
-                entry.label = label();
-                entry.image = true;
-                const int which = below(odd ? 3 : 1);
-                entry.imageSize = images[which];
-                const auto measured = model.measure(entry);
-                entry.cell.size[model.along] = std::trunc(measured[model.along]);
-                entry.cell.size[model.across()] = model.widget[model.across()];
-                item = bar.AddImageSwitch(QString::fromStdString(entry.label),
-                                          QStringLiteral("image%1").arg(which),
-                                          QStringLiteral("other"), action, atEnd);
+    const auto addOne = [&] {
+        const bool atEnd = below(4) == 0;
+        Entry entry;
+        entry.id = model.nextId++;
+        entry.action = entry.id;
+        const auto action = [&log, id = entry.id] { log.push_back(id); };
+        SwitchItem* item = nullptr;
+        const int kind = below(10);
+        if (kind < 2) {
+            entry.separator = true;
+            entry.action = 0;
+            const int thickness = odd ? below(24) - 3 : 1 + below(20);
+            entry.cell.size[model.along] = thickness;
+            entry.cell.size[model.across()] = model.widget[model.across()];
+            item = bar.AddSeparator(thickness, atEnd);
+        } else if (kind < 4) {
+            entry.label = label();
+            entry.image = true;
+            const int which = below(odd ? 3 : 1);
+            entry.imageSize = images[which];
+            const auto measured = model.measure(entry);
+            entry.cell.size[model.along] = std::trunc(measured[model.along]);
+            entry.cell.size[model.across()] = model.widget[model.across()];
+            item = bar.AddImageSwitch(QString::fromStdString(entry.label),
+                                      QStringLiteral("image%1").arg(which), QStringLiteral("other"),
+                                      action, atEnd);
+        } else {
+            entry.label = label();
+            if (model.fixedSize == 0) {
+                entry.cell.size = model.measure(entry);
             } else {
-                entry.label = label();
-                if (model.fixedSize == 0) {
-                    entry.cell.size = model.measure(entry);
-                } else {
-                    entry.cell.size[model.along] = model.fixedSize;
-                    entry.cell.size[model.across()] = model.widget[model.across()];
-                }
-                item = bar.AddNormalSwitch(QString::fromStdString(entry.label), action, atEnd,
-                                           nullptr);
+                entry.cell.size[model.along] = model.fixedSize;
+                entry.cell.size[model.across()] = model.widget[model.across()];
             }
-            ids.insert(item, model.add(entry, atEnd));
-        };
-
-        const auto operate = [&] {
-            if (below(100) < additions) {
-                addOne();
-                return;
-            }
-            switch (below(16)) {
-            case 0: {
-                const int mode = odd ? 1 + below(8) : 2 + below(6);
-                model.mode = mode;
-                model.layOut();
-                bar.changeMode(CSwitchEx::SwitchMode(mode));
-                break;
-            }
-            case 1: {
-                const bool horizontal = below(2) == 0;
-                model.along = horizontal ? X : Y;
-                model.layOut();
-                bar.setOrientation(horizontal ? Qt::Horizontal : Qt::Vertical);
-                break;
-            }
-            case 2:
-                if (below(4) == 0) {
-                    model.fixedSize = below(3) ? 20 + below(100) : 0;
-                    model.measureAll();
-                    bar.setItemSize(model.fixedSize);
-                }
-                break;
-            case 3:
-                if (below(4) == 0) {
-                    const int lowest = odd ? -8 : 0;
-                    for (double& side : model.padding)
-                        side = (lowest + below(20)) / 4.0;
-                    model.measureAll();
-                    bar.SetPadding(QMarginsF(model.padding[0], model.padding[1], model.padding[2],
-                                             model.padding[3]));
-                }
-                break;
-            case 4:
-            case 5: {
-                Pair<int> size{{0, 0}};
-                size[model.along] = 1 + below(length);
-                size[model.across()] = 30 + below(30);
-                const bool resized = size[X] != model.widget[X] || size[Y] != model.widget[Y];
-                model.widget = size;
-                if (below(4) == 0) {
-                    // A hidden bar has its new size before the event.
-                    bar.hide();
-                    bar.resize(size[X], size[Y]);
-                    addOne();
-                    model.layOut();
-                    bar.show();
-                } else if (resized) {
-                    model.layOut();
-                    bar.resize(size[X], size[Y]);
-                }
-                break;
-            }
-            case 6:
-            case 7:
-            case 8: {
-                const bool back = below(3) == 0;
-                model.scroll(back);
-                bar.DoClickMoreItem(back);
-                break;
-            }
-            case 9:
-            case 10: {
-                const auto at = point();
-                const auto other = below(3) ? at : point();
-                model.press(at);
-                mouse(QEvent::MouseButtonPress, at);
-                model.release(other);
-                mouse(QEvent::MouseButtonRelease, other);
-                break;
-            }
-            case 11: {
-                const auto at = point();
-                const Entry* entry = model.find(at, false);
-                model.hovered = entry ? entry->id : 0;
-                mouse(QEvent::MouseMove, at);
-                break;
-            }
-            case 12: {
-                const std::string from = label();
-                const std::string to = label();
-                const int action = 100000 + step;
-                Entry* const entry = model.named(from);
-                if (entry) {
-                    entry->label = to;
-                    entry->action = action;
-                }
-                QCOMPARE(bar.ModifySwitch(QString::fromStdString(from), QString::fromStdString(to),
-                                          [&log, action] { log.push_back(action); }),
-                         entry != nullptr);
-                break;
-            }
-            case 13:
-                if (!model.mains.empty()) {
-                    const int index = below(int(model.mains.size()));
-                    model.mains[std::size_t(index)].label = label();
-                    bar.SetItemLabel(bar.items[index],
-                                     QString::fromStdString(model.mains[std::size_t(index)].label));
-                }
-                break;
-            case 14:
-                if (!model.mains.empty()) {
-                    const int index = below(int(model.mains.size()));
-                    model.selected = model.mains[std::size_t(index)].id;
-                    bar.SetCurSel(bar.items[index], false);
-                }
-                break;
-            case 15:
-                if (below(6) == 0) {
-                    model.clear();
-                    ids.clear();
-                    bar.ClearAll();
-                }
-                break;
-            }
-        };
-
-        for (; step < 2000; ++step) {
-            operate();
-            if (QTest::currentTestFailed())
-                return;
-            const auto at = [&](const char* what) {
-                return QStringLiteral("%1 after %2 operations of seed %3")
-                    .arg(QLatin1String(what))
-                    .arg(step + 1)
-                    .arg(seed)
-                    .toUtf8();
-            };
-            QVERIFY2(bar.firstIndex == model.first, at("firstIndex").constData());
-            QVERIFY2(bar.visibleCount == model.shown, at("visibleCount").constData());
-            QVERIFY2(bar.moreShown == model.buttons, at("moreShown").constData());
-            QVERIFY2(same(bar.moreRect, model.buttonArea), at("moreRect").constData());
-            QVERIFY2(same(bar.GetMaximumSize(), model.extentOfAll()),
-                     at("GetMaximumSize").constData());
-            QVERIFY2(same(bar.GetMinimumSize(), model.extentNeeded()),
-                     at("GetMinimumSize").constData());
-            QVERIFY2(ids.value(bar.curSel) == model.selected, at("curSel").constData());
-            QVERIFY2(ids.value(bar.hoverItem) == model.hovered, at("hoverItem").constData());
-            QVERIFY2(log == model.log, at("the actions run").constData());
-            QCOMPARE(bar.items.size(), int(model.mains.size()));
-            QCOMPARE(bar.endItems.size(), int(model.ends.size()));
-            for (int i = 0; i < bar.items.size(); ++i)
-                QVERIFY2(same(bar.items[i]->rect, model.mains[std::size_t(i)].cell),
-                         at("a main item's cell").constData());
-            for (int i = 0; i < bar.endItems.size(); ++i)
-                QVERIFY2(same(bar.endItems[i]->rect, model.ends[std::size_t(i)].cell),
-                         at("an end item's cell").constData());
+            item = bar.AddNormalSwitch(QString::fromStdString(entry.label), action, atEnd, nullptr);
         }
-        bar.ClearAll();
+        ids.insert(item, model.add(entry, atEnd));
+    };
+
+    const auto operate = [&] {
+        if (below(100) < additions) {
+            addOne();
+            return;
+        }
+        switch (below(16)) {
+        case 0: {
+            const int mode = odd ? 1 + below(8) : 2 + below(6);
+            model.mode = mode;
+            model.layOut();
+            bar.changeMode(CSwitchEx::SwitchMode(mode));
+            break;
+        }
+        case 1: {
+            const bool horizontal = below(2) == 0;
+            model.along = horizontal ? X : Y;
+            model.layOut();
+            bar.setOrientation(horizontal ? Qt::Horizontal : Qt::Vertical);
+            break;
+        }
+        case 2:
+            if (below(4) == 0) {
+                model.fixedSize = below(3) ? 20 + below(100) : 0;
+                model.measureAll();
+                bar.setItemSize(model.fixedSize);
+            }
+            break;
+        case 3:
+            if (below(4) == 0) {
+                const int lowest = odd ? -8 : 0;
+                for (double& side : model.padding)
+                    side = (lowest + below(20)) / 4.0;
+                model.measureAll();
+                bar.SetPadding(QMarginsF(model.padding[0], model.padding[1], model.padding[2],
+                                         model.padding[3]));
+            }
+            break;
+        case 4:
+        case 5: {
+            Pair<int> size{{0, 0}};
+            size[model.along] = 1 + below(length);
+            size[model.across()] = 30 + below(30);
+            const bool resized = size[X] != model.widget[X] || size[Y] != model.widget[Y];
+            model.widget = size;
+            if (below(4) == 0) {
+                // A hidden bar has its new size before the event.
+                bar.hide();
+                bar.resize(size[X], size[Y]);
+                addOne();
+                model.layOut();
+                bar.show();
+            } else if (resized) {
+                model.layOut();
+                bar.resize(size[X], size[Y]);
+            }
+            break;
+        }
+        case 6:
+        case 7:
+        case 8: {
+            const bool back = below(3) == 0;
+            model.scroll(back);
+            bar.DoClickMoreItem(back);
+            break;
+        }
+        case 9:
+        case 10: {
+            const auto at = point();
+            const auto other = below(3) ? at : point();
+            model.press(at);
+            mouse(QEvent::MouseButtonPress, at);
+            model.release(other);
+            mouse(QEvent::MouseButtonRelease, other);
+            break;
+        }
+        case 11: {
+            const auto at = point();
+            const Entry* entry = model.find(at, false);
+            model.hovered = entry ? entry->id : 0;
+            mouse(QEvent::MouseMove, at);
+            break;
+        }
+        case 12: {
+            const std::string from = label();
+            const std::string to = label();
+            const int action = 100000 + step;
+            Entry* const entry = model.named(from);
+            if (entry) {
+                entry->label = to;
+                entry->action = action;
+            }
+            QCOMPARE(bar.ModifySwitch(QString::fromStdString(from), QString::fromStdString(to),
+                                      [&log, action] { log.push_back(action); }),
+                     entry != nullptr);
+            break;
+        }
+        case 13:
+            if (!model.mains.empty()) {
+                const int index = below(int(model.mains.size()));
+                model.mains[std::size_t(index)].label = label();
+                bar.SetItemLabel(bar.items[index],
+                                 QString::fromStdString(model.mains[std::size_t(index)].label));
+            }
+            break;
+        case 14:
+            if (!model.mains.empty()) {
+                const int index = below(int(model.mains.size()));
+                model.selected = model.mains[std::size_t(index)].id;
+                bar.SetCurSel(bar.items[index], false);
+            }
+            break;
+        case 15:
+            if (below(6) == 0) {
+                model.clear();
+                ids.clear();
+                bar.ClearAll();
+            }
+            break;
+        }
+    };
+
+    for (; step < 2000; ++step) {
+        operate();
+        if (QTest::currentTestFailed())
+            return;
+        const auto at = [&](const char* what) {
+            return QStringLiteral("%1 after %2 operations of seed %3")
+                .arg(QLatin1String(what))
+                .arg(step + 1)
+                .arg(seed)
+                .toUtf8();
+        };
+        QVERIFY2(bar.firstIndex == model.first, at("firstIndex").constData());
+        QVERIFY2(bar.visibleCount == model.shown, at("visibleCount").constData());
+        QVERIFY2(bar.moreShown == model.buttons, at("moreShown").constData());
+        QVERIFY2(same(bar.moreRect, model.buttonArea), at("moreRect").constData());
+        QVERIFY2(same(bar.GetMaximumSize(), model.extentOfAll()), at("GetMaximumSize").constData());
+        QVERIFY2(same(bar.GetMinimumSize(), model.extentNeeded()),
+                 at("GetMinimumSize").constData());
+        QVERIFY2(ids.value(bar.curSel) == model.selected, at("curSel").constData());
+        QVERIFY2(ids.value(bar.hoverItem) == model.hovered, at("hoverItem").constData());
+        QVERIFY2(log == model.log, at("the actions run").constData());
+        QCOMPARE(bar.items.size(), int(model.mains.size()));
+        QCOMPARE(bar.endItems.size(), int(model.ends.size()));
+        for (int i = 0; i < bar.items.size(); ++i)
+            QVERIFY2(same(bar.items[i]->rect, model.mains[std::size_t(i)].cell),
+                     at("a main item's cell").constData());
+        for (int i = 0; i < bar.endItems.size(); ++i)
+            QVERIFY2(same(bar.endItems[i]->rect, model.ends[std::size_t(i)].cell),
+                     at("an end item's cell").constData());
     }
-};
+    bar.ClearAll();
+}
 
 TRADECONFIG_TEST_MAIN(tst_SwitchExRandom)
 
