@@ -65,6 +65,26 @@ public:
 
 QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
+// What every bar of 200 x 40, or 40 x 200 as a column, paints before its items.
+QStringList backgroundOf(CSwitchEx::SwitchMode mode, Qt::Orientation orientation)
+{
+    const bool horizontal = orientation == Qt::Horizontal;
+    switch (mode) {
+    case CSwitchEx::ModeImageButton:
+        return {};
+    case CSwitchEx::ModeNavButton:
+        return lines(horizontal ? "fillRect 0,0,199,39 NavSwitchBg\n"
+                                  "drawRect 0,0,199,39 NavSwitchBorder 1 1"
+                                : "fillRect 0,0,39,199 NavSwitchBg\n"
+                                  "drawRect 0,0,39,199 NavSwitchBorder 1 1");
+    default:
+        return lines(horizontal ? "fillRect 0,0,199,39 SwitchBackground\n"
+                                  "drawRect 0,0,199,39 SwitchBorder 1 1"
+                                : "fillRect 0,0,39,199 SwitchBackground\n"
+                                  "drawRect 0,0,39,199 SwitchBorder 1 1");
+    }
+}
+
 // The calls without the two of the bar's background.
 QStringList withoutBackground(QStringList calls) { return calls.mid(2); }
 
@@ -80,469 +100,330 @@ void tst_SwitchExPaint::oneItem_data()
 
     const auto row = [](const char* name, CSwitchEx::SwitchMode mode, Qt::Orientation orientation,
                         const char* state, const char* expected) {
-        QTest::newRow(name) << mode << orientation << QString::fromLatin1(state) << lines(expected);
+        QTest::newRow(name) << mode << orientation << QString::fromLatin1(state)
+                            << backgroundOf(mode, orientation) + lines(expected);
     };
 
     // clang-format off
     row("Switch, horizontal, normal", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgNormal
 drawText 3,4,193,30 0x184 SwitchFgNormal Switch "ab")");
     row("Switch, horizontal, hover", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgHover
 drawText 3,4,193,30 0x184 SwitchFgHover Switch "ab")");
     row("Switch, horizontal, selected", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgSelect
 drawText 3,4,193,30 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, horizontal, menu", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgNormal
 drawText 3,4,193,30 0x184 SwitchFgNormal Switch "ab")");
     row("Switch, horizontal, selected and hover", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgSelect
 drawText 3,4,193,30 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, horizontal, selected with menu", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgSelect
 drawText 3,4,193,30 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, horizontal, hover with menu", CSwitchEx::ModeSwitch, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,194,32 SwitchBorder 1 1
 fillRect 3,4,193,30 SwitchBgHover
 drawText 3,4,193,30 0x184 SwitchFgHover Switch "ab")");
     row("Switch, vertical, normal", CSwitchEx::ModeSwitch, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgNormal
 drawText 3,4,33,190 0x184 SwitchFgNormal Switch "ab")");
     row("Switch, vertical, hover", CSwitchEx::ModeSwitch, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgHover
 drawText 3,4,33,190 0x184 SwitchFgHover Switch "ab")");
     row("Switch, vertical, selected", CSwitchEx::ModeSwitch, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgSelect
 drawText 3,4,33,190 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, vertical, menu", CSwitchEx::ModeSwitch, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgNormal
 drawText 3,4,33,190 0x184 SwitchFgNormal Switch "ab")");
     row("Switch, vertical, selected and hover", CSwitchEx::ModeSwitch, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgSelect
 drawText 3,4,33,190 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, vertical, selected with menu", CSwitchEx::ModeSwitch, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgSelect
 drawText 3,4,33,190 0x184 SwitchFgSelect Switch "ab")");
     row("Switch, vertical, hover with menu", CSwitchEx::ModeSwitch, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,192 SwitchBorder 1 1
 fillRect 3,4,33,190 SwitchBgHover
 drawText 3,4,33,190 0x184 SwitchFgHover Switch "ab")");
     row("Button, horizontal, normal", CSwitchEx::ModeButton, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 drawText 2,3,50,32 0x184 SwitchFgNormal Switch "ab")");
     row("Button, horizontal, hover", CSwitchEx::ModeButton, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 drawText 2,3,50,32 0x184 SwitchFgHover Switch "ab")");
     row("Button, horizontal, selected", CSwitchEx::ModeButton, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 drawText 2,3,50,32 0x184 SwitchFgSelect Switch "ab")");
     row("Button, horizontal, menu", CSwitchEx::ModeButton, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("Button, horizontal, selected and hover", CSwitchEx::ModeButton, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 drawText 2,3,50,32 0x184 SwitchFgSelect Switch "ab")");
     row("Button, horizontal, selected with menu", CSwitchEx::ModeButton, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("Button, horizontal, hover with menu", CSwitchEx::ModeButton, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("Button, vertical, normal", CSwitchEx::ModeButton, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgNormal Switch "ab")");
     row("Button, vertical, hover", CSwitchEx::ModeButton, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgHover Switch "ab")");
     row("Button, vertical, selected", CSwitchEx::ModeButton, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgSelect Switch "ab")");
     row("Button, vertical, menu", CSwitchEx::ModeButton, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgNormal Switch "ab▶")");
     row("Button, vertical, selected and hover", CSwitchEx::ModeButton, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgSelect Switch "ab")");
     row("Button, vertical, selected with menu", CSwitchEx::ModeButton, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgNormal Switch "ab▶")");
     row("Button, vertical, hover with menu", CSwitchEx::ModeButton, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 2,3,34,26 0x184 SwitchFgNormal Switch "ab▶")");
     row("FlatButton, horizontal, normal", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,49,30 SwitchBgNormal
 drawText 2,3,50,32 0x184 SwitchFgNormal Switch "ab")");
     row("FlatButton, horizontal, hover", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,49,30 SwitchBgHover
 drawText 2,3,50,32 0x184 SwitchFgHover Switch "ab")");
     row("FlatButton, horizontal, selected", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,49,30 SwitchBgSelect
 drawText 2,3,50,32 0x184 SwitchFgSelect Switch "ab")");
     row("FlatButton, horizontal, menu", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatButton, horizontal, selected and hover", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,49,30 SwitchBgSelect
 drawText 2,3,50,32 0x184 SwitchFgSelect Switch "ab")");
     row("FlatButton, horizontal, selected with menu", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatButton, horizontal, hover with menu", CSwitchEx::ModeFlatButton, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 2,3,60,32 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatButton, vertical, normal", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,33,25 SwitchBgNormal
 drawText 14,3,10,26 0x2084 SwitchFgNormal Switch "ab")");
     row("FlatButton, vertical, hover", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,33,25 SwitchBgHover
 drawText 14,3,10,26 0x2084 SwitchFgHover Switch "ab")");
     row("FlatButton, vertical, selected", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 fillRect 3,4,33,25 SwitchBgSelect
 drawText 14,3,10,26 0x2084 SwitchFgSelect Switch "ab")");
     row("FlatButton, vertical, menu", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 14,3,10,26 0x2084 SwitchFgNormal Switch "ab▶")");
     row("FlatButton, vertical, selected and hover", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 fillRect 3,4,33,25 SwitchBgSelect
 drawText 14,3,10,26 0x2084 SwitchFgSelect Switch "ab")");
     row("FlatButton, vertical, selected with menu", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 drawText 14,3,10,26 0x2084 SwitchFgNormal Switch "ab▶")");
     row("FlatButton, vertical, hover with menu", CSwitchEx::ModeFlatButton, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 14,3,10,26 0x2084 SwitchFgNormal Switch "ab▶")");
     row("FlatBlue, horizontal, normal", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgNormal
 drawText 3,4,48,30 0x184 SwitchFgNormal Switch "ab")");
     row("FlatBlue, horizontal, hover", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgHover
 drawText 3,4,48,30 0x184 SwitchFgHover Switch "ab")");
     row("FlatBlue, horizontal, selected", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgSelect
 drawText 3,4,48,30 0x184 SwitchFgSelect Switch "ab")");
     row("FlatBlue, horizontal, menu", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatBlue, horizontal, selected and hover", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgSelect
 drawText 3,4,48,30 0x184 SwitchFgSelect Switch "ab")");
     row("FlatBlue, horizontal, selected with menu", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatBlue, horizontal, hover with menu", CSwitchEx::ModeFlatBlue, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("FlatBlue, vertical, normal", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgNormal
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab")");
     row("FlatBlue, vertical, hover", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgHover
 drawText 3,4,32,24 0x184 SwitchFgHover Switch "ab")");
     row("FlatBlue, vertical, selected", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgSelect
 drawText 3,4,32,24 0x184 SwitchFgSelect Switch "ab")");
     row("FlatBlue, vertical, menu", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("FlatBlue, vertical, selected and hover", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgSelect
 drawText 3,4,32,24 0x184 SwitchFgSelect Switch "ab")");
     row("FlatBlue, vertical, selected with menu", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("FlatBlue, vertical, hover with menu", CSwitchEx::ModeFlatBlue, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("IKButton, horizontal, normal", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgNormal
 drawText 3,4,48,30 0x184 SwitchFgNormal Switch "ab")");
     row("IKButton, horizontal, hover", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgHover
 drawText 3,4,48,30 0x184 SwitchFgHover Switch "ab")");
     row("IKButton, horizontal, selected", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgSelect
 drawText 3,4,48,30 0x184 SwitchFgSelect Switch "ab")");
     row("IKButton, horizontal, menu", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("IKButton, horizontal, selected and hover", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,50,32 SwitchBorder 1 1
 fillRect 3,4,48,30 SwitchBgSelect
 drawText 3,4,48,30 0x184 SwitchFgSelect Switch "ab")");
     row("IKButton, horizontal, selected with menu", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("IKButton, horizontal, hover with menu", CSwitchEx::ModeIKButton, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 SwitchBackground
-drawRect 0,0,199,39 SwitchBorder 1 1
 drawRect 2,3,60,32 SwitchBorder 1 1
 drawText 3,4,58,30 0x184 SwitchFgNormal Switch "ab▲")");
     row("IKButton, vertical, normal", CSwitchEx::ModeIKButton, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgNormal
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab")");
     row("IKButton, vertical, hover", CSwitchEx::ModeIKButton, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgHover
 drawText 3,4,32,24 0x184 SwitchFgHover Switch "ab")");
     row("IKButton, vertical, selected", CSwitchEx::ModeIKButton, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgSelect
 drawText 3,4,32,24 0x184 SwitchFgSelect Switch "ab")");
     row("IKButton, vertical, menu", CSwitchEx::ModeIKButton, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("IKButton, vertical, selected and hover", CSwitchEx::ModeIKButton, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 fillRect 3,4,32,24 SwitchBgSelect
 drawText 3,4,32,24 0x184 SwitchFgSelect Switch "ab")");
     row("IKButton, vertical, selected with menu", CSwitchEx::ModeIKButton, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("IKButton, vertical, hover with menu", CSwitchEx::ModeIKButton, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 SwitchBackground
-drawRect 0,0,39,199 SwitchBorder 1 1
 drawRect 2,3,34,26 SwitchBorder 1 1
 drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("ImageButton, horizontal, normal", CSwitchEx::ModeImageButton, Qt::Horizontal, "normal", R"()");
@@ -561,97 +442,69 @@ drawText 3,4,32,24 0x184 SwitchFgNormal Switch "ab▶")");
     row("ImageButton, vertical, hover with menu", CSwitchEx::ModeImageButton, Qt::Vertical, "hover with menu", R"()");
     row("NavButton, horizontal, normal", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "normal", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,50,32 NavSwitchBorder 1 1
 fillRect 3,4,49,30 NavSwitchBgNormal
 drawText 2,3,50,32 0x184 NavSwitchFgNormal NavSwitch "ab")");
     row("NavButton, horizontal, hover", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "hover", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,50,32 NavSwitchBorder 1 1
 fillRect 3,4,49,30 NavSwitchBgHover
 drawText 2,3,50,32 0x184 NavSwitchFgHover NavSwitch "ab")");
     row("NavButton, horizontal, selected", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "selected", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,50,32 NavSwitchBorder 1 1
 fillRect 3,4,49,30 NavSwitchBgSelect
 drawText 2,3,50,32 0x184 NavSwitchFgSelect NavSwitchSel "ab")");
     row("NavButton, horizontal, menu", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "menu", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,60,32 NavSwitchBorder 1 1
 drawText 2,3,60,32 0x184 NavSwitchFgNormal NavSwitch "ab▲")");
     row("NavButton, horizontal, selected and hover", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "selected and hover", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,50,32 NavSwitchBorder 1 1
 fillRect 3,4,49,30 NavSwitchBgSelect
 drawText 2,3,50,32 0x184 NavSwitchFgSelect NavSwitchSel "ab")");
     row("NavButton, horizontal, selected with menu", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "selected with menu", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,60,32 NavSwitchBorder 1 1
 drawText 2,3,60,32 0x184 NavSwitchFgNormal NavSwitch "ab▲")");
     row("NavButton, horizontal, hover with menu", CSwitchEx::ModeNavButton, Qt::Horizontal,
         "hover with menu", R"(
-fillRect 0,0,199,39 NavSwitchBg
-drawRect 0,0,199,39 NavSwitchBorder 1 1
 drawRect 2,3,60,32 NavSwitchBorder 1 1
 drawText 2,3,60,32 0x184 NavSwitchFgNormal NavSwitch "ab▲")");
     row("NavButton, vertical, normal", CSwitchEx::ModeNavButton, Qt::Vertical,
         "normal", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 fillRect 3,4,33,25 NavSwitchBgNormal
 drawText 14,3,10,26 0x2084 NavSwitchFgNormal NavSwitch "ab")");
     row("NavButton, vertical, hover", CSwitchEx::ModeNavButton, Qt::Vertical,
         "hover", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 fillRect 3,4,33,25 NavSwitchBgHover
 drawText 14,3,10,26 0x2084 NavSwitchFgHover NavSwitch "ab")");
     row("NavButton, vertical, selected", CSwitchEx::ModeNavButton, Qt::Vertical,
         "selected", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 fillRect 3,4,33,25 NavSwitchBgSelect
 drawText 14,3,10,26 0x2084 NavSwitchFgSelect NavSwitchSel "ab")");
     row("NavButton, vertical, menu", CSwitchEx::ModeNavButton, Qt::Vertical,
         "menu", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 drawText 14,3,10,26 0x2084 NavSwitchFgNormal NavSwitch "ab▶")");
     row("NavButton, vertical, selected and hover", CSwitchEx::ModeNavButton, Qt::Vertical,
         "selected and hover", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 fillRect 3,4,33,25 NavSwitchBgSelect
 drawText 14,3,10,26 0x2084 NavSwitchFgSelect NavSwitchSel "ab")");
     row("NavButton, vertical, selected with menu", CSwitchEx::ModeNavButton, Qt::Vertical,
         "selected with menu", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 drawLine SwitchSelLine 36,3 36,29 1 1
 drawText 14,3,10,26 0x2084 NavSwitchFgNormal NavSwitch "ab▶")");
     row("NavButton, vertical, hover with menu", CSwitchEx::ModeNavButton, Qt::Vertical,
         "hover with menu", R"(
-fillRect 0,0,39,199 NavSwitchBg
-drawRect 0,0,39,199 NavSwitchBorder 1 1
 drawRect 2,3,34,26 NavSwitchBorder 1 1
 drawText 14,3,10,26 0x2084 NavSwitchFgNormal NavSwitch "ab▶")");
     // clang-format on
