@@ -12,8 +12,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <cmath>
-#include <tuple>
 
 const QString SWITCH_ARROW_LEFT = QStringLiteral("◀");
 const QString SWITCH_ARROW_RIGHT = QStringLiteral("▶");
@@ -25,8 +23,6 @@ namespace {
 constexpr double moreLength = 38; // both scroll buttons together, along the bar
 constexpr double textExtraWidth = 30; // of a text item in a horizontal bar
 constexpr double textExtraHeight = 10; // of a text item in a vertical bar
-constexpr int fewItems = 32; // are walked each time: cells changed from outside then count too
-constexpr double tolerance = 1e-6; // lengths closer than this may be equal but for rounding
 
 } // namespace
 
@@ -121,8 +117,7 @@ SwitchItem* CSwitchEx::Append(std::unique_ptr<SwitchItem> item, bool atEnd)
 {
     SwitchItem* const added = item.release();
     (atEnd ? endItems : items).append(added);
-    if (!LayOutAppended(atEnd))
-        ReLayout();
+    ReLayout();
     update();
     return added;
 }
@@ -281,94 +276,14 @@ void CSwitchEx::ReLayout()
         ReLayoutSwitch();
         return;
     }
-    const SwitchAxis axis(orientation);
-    laidOutLength = GetMaximumSize();
-    if (axis.extent(size()) >= laidOutLength)
+    if (SwitchAxis(orientation).extent(size()) >= GetMaximumSize())
         ReLayoutShowAll();
     else
         ReLayoutMoreButton();
-
-    const auto growsForward
-        = [&axis](const SwitchItem* item) { return axis.extent(item->rect) >= 0; };
-    if (std::all_of(items.cbegin(), items.cend(), growsForward)
-        && std::all_of(endItems.cbegin(), endItems.cend(), growsForward))
-        laidOut = CurrentState();
-    else
-        laidOut.reset();
-}
-
-bool CSwitchEx::LayoutState::operator==(const LayoutState& other) const
-{
-    const auto all = [](const LayoutState& state) {
-        return std::tie(state.size, state.orientation, state.mode, state.mainCount, state.endCount,
-                        state.firstIndex, state.visibleCount, state.moreShown, state.moreRect);
-    };
-    return all(*this) == all(other);
-}
-
-CSwitchEx::LayoutState CSwitchEx::CurrentState() const
-{
-    return {size(),     orientation,  mode,      items.size(), endItems.size(),
-            firstIndex, visibleCount, moreShown, moreRect};
-}
-
-// Places the item appended last without walking all others, so that filling a bar takes time in
-// proportion to its items. False, with nothing that ReLayout() would not put right, where the
-// others may move or rounding could decide.
-bool CSwitchEx::LayOutAppended(bool atEnd)
-{
-    if (items.size() + endItems.size() <= fewItems)
-        return false;
-    LayoutState before = CurrentState();
-    --(atEnd ? before.endCount : before.mainCount);
-    if (!laidOut || !(*laidOut == before))
-        return false;
-
-    const SwitchAxis axis(orientation);
-    QRectF& added = (atEnd ? endItems : items).last()->rect;
-    const double length = axis.extent(size());
-    const double total = laidOutLength + axis.extent(added);
-    const auto close = [](double a, double b) { return std::abs(a - b) < tolerance; };
-    const bool fits = total < length;
-    if (axis.extent(added) < tolerance || close(total, length) || fits == moreShown)
-        return false;
-
-    if (atEnd) {
-        axis.moveFarEdge(added,
-                         before.endCount > 0 ? axis.nearEdge(endItems[before.endCount - 1]->rect)
-                                             : length);
-        axis.setBreadth(added, axis.breadth(size()));
-        if (!fits) {
-            const double available = axis.nearEdge(added) - moreLength;
-            for (; visibleCount > 0; --visibleCount) {
-                const double end = axis.farEdge(items[firstIndex + visibleCount - 1]->rect);
-                if (close(end, available))
-                    return false;
-                if (end < available)
-                    break;
-            }
-            moreRect = axis.rectangle(available, moreLength, axis.breadth(size()));
-        }
-    } else if (firstIndex + visibleCount == before.mainCount) {
-        const double start = visibleCount > 0 ? axis.farEdge(items[before.mainCount - 1]->rect) : 0;
-        const double end = start + axis.extent(added);
-        const double available = axis.nearEdge(moreRect);
-        if (!fits && close(end, available))
-            return false;
-        if (fits || end < available) {
-            axis.moveNearEdge(added, start);
-            axis.setBreadth(added, axis.breadth(size()));
-            ++visibleCount;
-        }
-    }
-    laidOut = CurrentState();
-    laidOutLength = total;
-    return true;
 }
 
 void CSwitchEx::ReLayoutSwitch()
 {
-    laidOut.reset();
     // visibleCount stays: how many main items are painted is what the last other layout counted.
     firstIndex = 0;
     moreShown = false;

@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class QMenu;
 struct SwitchLook;
@@ -164,30 +163,9 @@ protected:
 private:
     friend class SwitchExAccessible;
 
-    // Everything that a layout depends on or sets, but the items' cells.
-    struct LayoutState {
-        QSize size;
-        Qt::Orientation orientation;
-        SwitchMode mode;
-        int mainCount;
-        int endCount;
-        int firstIndex;
-        int visibleCount;
-        bool moreShown;
-        QRectF moreRect;
-
-        bool operator==(const LayoutState& other) const;
-    };
-
     SwitchItem* Append(std::unique_ptr<SwitchItem> item, bool atEnd);
-    bool LayOutAppended(bool atEnd);
-    LayoutState CurrentState() const;
     SwitchItem* FindLabel(const QString& label) const;
     bool Owns(SwitchItem* item) const;
     double PackEndItems();
     void DrawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
-
-    // What the last layout left, if one more item may be placed without walking all others.
-    std::optional<LayoutState> laidOut;
-    double laidOutLength = 0; // of all items together
 };

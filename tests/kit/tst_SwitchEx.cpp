@@ -7,7 +7,6 @@
 #include <QMenu>
 #include <QScreen>
 
-#include <ctime>
 #include <memory>
 
 Q_DECLARE_METATYPE(Qt::Orientation)
@@ -66,10 +65,10 @@ private Q_SLOTS:
     void anEmptyMenuDoesNothing();
     void repaints();
     void addingAfterStateChangedBehindTheLayout();
-    void aCellChangedFromOutsideCountsInTheNextLayout();
+    void aCellChangedFromOutsideCountsAtTheNextAddition_data();
+    void aCellChangedFromOutsideCountsAtTheNextAddition();
+    void aCellMovedFromOutsideIsPutBackByTheNextAddition();
     void oneMoreBesideMany();
-    void fillingABarTakesLinearTime_data();
-    void fillingABarTakesLinearTime();
 };
 
 namespace {
@@ -1253,8 +1252,7 @@ void tst_SwitchEx::repaints()
     QCOMPARE(repainted([&] { bar.DoClickItem(); }), 0);
 }
 
-// What the layout remembers must not outlive what it was made for: with enough items that
-// one more is placed beside them.
+// State that changed without a layout counts at the next addition.
 void tst_SwitchEx::addingAfterStateChangedBehindTheLayout()
 {
     Bar bar(Qt::Horizontal, QSize(600, 40));
@@ -1289,7 +1287,7 @@ void tst_SwitchEx::addingAfterStateChangedBehindTheLayout()
     QCOMPARE(hidden.moreRect, QRectF(452, 0, 38, 50));
     QCOMPARE(hidden.visibleCount, 45);
 
-    // After clearing nothing is remembered.
+    // A cleared bar begins anew.
     Bar cleared(Qt::Horizontal, QSize(600, 40));
     cleared.setItemSize(10);
     cleared.add(50);
@@ -1299,17 +1297,71 @@ void tst_SwitchEx::addingAfterStateChangedBehindTheLayout()
     QCOMPARE(cleared.visibleCount, 40);
 }
 
-void tst_SwitchEx::aCellChangedFromOutsideCountsInTheNextLayout()
+// Items of 10 pixels; the first is made wider after the layout has placed them all.
+void tst_SwitchEx::aCellChangedFromOutsideCountsAtTheNextAddition_data()
 {
-    Bar bar(Qt::Horizontal, QSize(600, 40));
-    bar.setItemSize(100);
-    bar.add(2);
-    bar.items[0]->rect.setWidth(150);
-    QCOMPARE(bar.add(1)[0]->rect, QRectF(250, 0, 100, 40));
-    bar.items[0]->rect.setWidth(500);
-    bar.add(1);
-    QVERIFY(bar.moreShown);
-    QCOMPARE(bar.visibleCount, 1);
+    QTest::addColumn<int>("items");
+    QTest::addColumn<bool>("atEnd"); // the item that is added
+    QTest::addColumn<int>("length");
+    QTest::addColumn<double>("width"); // of the first item
+    QTest::addColumn<int>("visible");
+    QTest::addColumn<QRectF>("second");
+    QTest::addColumn<QRectF>("added");
+
+    QTest::newRow("5, fitting") << 5 << false << 600 << 60.0 << 6 << QRectF(60, 0, 10, 40)
+                                << QRectF(100, 0, 10, 40);
+    QTest::newRow("5, fitting, at the end")
+        << 5 << true << 600 << 60.0 << 5 << QRectF(60, 0, 10, 40) << QRectF(590, 0, 10, 40);
+    // The scroll buttons begin at 562, or at 552 before the end item.
+    QTest::newRow("5, overflowing")
+        << 5 << false << 600 << 555.0 << 1 << QRectF(10, 0, 10, 40) << QRectF(0, 0, 10, 40);
+    QTest::newRow("5, overflowing, at the end")
+        << 5 << true << 600 << 551.0 << 1 << QRectF(10, 0, 10, 40) << QRectF(590, 0, 10, 40);
+    QTest::newRow("100, fitting") << 100 << false << 1200 << 60.0 << 101 << QRectF(60, 0, 10, 40)
+                                  << QRectF(1050, 0, 10, 40);
+    QTest::newRow("100, fitting, at the end")
+        << 100 << true << 1200 << 60.0 << 100 << QRectF(60, 0, 10, 40) << QRectF(1190, 0, 10, 40);
+    // The scroll buttons begin at 1162, or at 1152 before the end item.
+    QTest::newRow("100, overflowing")
+        << 100 << false << 1200 << 300.0 << 87 << QRectF(300, 0, 10, 40) << QRectF(0, 0, 10, 40);
+    QTest::newRow("100, overflowing, at the end")
+        << 100 << true << 1200 << 300.0 << 86 << QRectF(300, 0, 10, 40) << QRectF(1190, 0, 10, 40);
+}
+
+void tst_SwitchEx::aCellChangedFromOutsideCountsAtTheNextAddition()
+{
+    QFETCH(int, items);
+    QFETCH(bool, atEnd);
+    QFETCH(int, length);
+    QFETCH(double, width);
+    QFETCH(int, visible);
+    QFETCH(QRectF, second);
+    QFETCH(QRectF, added);
+    Bar bar(Qt::Horizontal, QSize(length, 40));
+    bar.setItemSize(10);
+    bar.add(items);
+    QCOMPARE(bar.visibleCount, items);
+    bar.items[0]->rect.setWidth(width);
+    QCOMPARE(bar.add(1, "x", atEnd)[0]->rect, added);
+    QCOMPARE(bar.visibleCount, visible);
+    QCOMPARE(bar.moreShown, visible < bar.items.size());
+    QCOMPARE(bar.items[1]->rect, second);
+}
+
+// The same of a cell that was moved away, and of an end item's.
+void tst_SwitchEx::aCellMovedFromOutsideIsPutBackByTheNextAddition()
+{
+    for (const int count : {5, 100}) {
+        Bar bar(Qt::Horizontal, QSize(1200, 40));
+        bar.setItemSize(10);
+        bar.add(count);
+        const auto ends = bar.add(2, "e", true);
+        bar.items[1]->rect = QRectF(700, 0, 10, 30);
+        ends[0]->rect = QRectF(3, 0, 15, 30);
+        bar.add(1);
+        QCOMPARE(bar.items[1]->rect, QRectF(10, 0, 10, 40));
+        QCOMPARE(rects(ends), (Rects{{1185, 0, 15, 40}, {1175, 0, 10, 40}}));
+    }
 }
 
 // Forty items of 10 pixels and what one more does beside them.
@@ -1380,46 +1432,6 @@ void tst_SwitchEx::oneMoreBesideMany()
     scrolled.AddSeparator(-36);
     QCOMPARE(scrolled.firstIndex, 35);
     QCOMPARE(scrolled.visibleCount, 3);
-}
-
-void tst_SwitchEx::fillingABarTakesLinearTime_data()
-{
-    QTest::addColumn<int>("length");
-    QTest::addColumn<bool>("atEnd");
-    QTest::addColumn<bool>("fixedSize");
-
-    QTest::newRow("overflowing") << 657 << false << true;
-    QTest::newRow("overflowing, at the end") << 657 << true << true;
-    QTest::newRow("overflowing, measured") << 657 << false << false;
-    QTest::newRow("fitting") << 16000000 << false << true;
-    QTest::newRow("fitting, at the end") << 16000000 << true << true;
-}
-
-void tst_SwitchEx::fillingABarTakesLinearTime()
-{
-    QFETCH(int, length);
-    QFETCH(bool, atEnd);
-    QFETCH(bool, fixedSize);
-    const auto seconds = [&](int count) {
-        double best = 1e9;
-        for (int round = 0; round < 3; ++round) {
-            CSwitchEx bar(nullptr, Qt::Horizontal, QMargins());
-            bar.resize(length, 60);
-            bar.setItemSize(fixedSize ? 219 : 0);
-            RecordingSkin::reset();
-            const std::clock_t start = std::clock();
-            for (int i = 0; i < count; ++i)
-                bar.AddNormalSwitch(QString(), {}, atEnd);
-            best = std::min(best, double(std::clock() - start) / CLOCKS_PER_SEC);
-            bar.ClearAll();
-        }
-        return best;
-    };
-    const double few = seconds(5000);
-    const double many = seconds(40000);
-    qInfo("5000 items %.2f ms, 40000 items %.2f ms", few * 1e3, many * 1e3);
-    // Eight times the items: eight times the time, or 64 times if each walked all others.
-    QVERIFY2(many < 30 * few, "the cost of one item grows with their number");
 }
 
 TRADECONFIG_TEST_MAIN(tst_SwitchEx)
