@@ -11,13 +11,13 @@ struct Subject {
     std::function<void()> after;
 };
 
-/// A subject by name, once done by the module and once by its floor.
+/// A subject by name, once done by the module and once by what it stands beside.
 struct SubjectEntry {
     std::string name;
-    bool module;
+    std::string side; ///< "module", or "floor", or "QTabBar"
     std::function<Subject()> make;
 
-    std::string label() const { return name + (module ? "/module" : "/floor"); }
+    std::string label() const { return name + '/' + side; }
 };
 
 /// All subjects, the two sides of each next to each other.

@@ -26,9 +26,8 @@ RATIO_TARGETS = {
 }
 CAPTURE_LIMIT_US = 100
 CAPTURES = ("key capture, accepted", "key capture, verdict turns")
-# From 1,000 to 10,000 items: 10 is linear, 100 quadratic.
-GROWTH_LIMIT = 15
-GROWTHS = ("scrolled", "in sight")
+# A switch bar that is filled stays below QTabBar, in instructions.
+FILLINGS = [(how, count) for how in ("in sight", "scrolled") for count in (10, 100, 1000)]
 MEMORY_RATIOS = {
     "heap bytes of an open dialog": 1.05,
     "heap blocks of an open dialog": 1.05,
@@ -36,7 +35,7 @@ MEMORY_RATIOS = {
 }
 NOTHING_LEFT = ("bytes left", "blocks left")
 
-ADDED = re.compile(r"add (\d+) (.*)")
+FILLED = re.compile(r"fill (\d+) (.*)")
 
 
 class Report:
@@ -56,7 +55,7 @@ class Report:
     def ratios(self, figures, targets, form):
         print(f"\n{'':44}{'module':>14}{'floor':>14}{'ratio':>8}  target")
         for name, (module, floor) in figures.items():
-            if ADDED.match(name):
+            if FILLED.match(name):
                 continue
             ratio = module / floor
             line = f"{name:44}{form(module):>14}{form(floor):>14}{ratio:8.3f}"
@@ -65,27 +64,26 @@ class Report:
             print(line)
         self.without_figures(name for name in targets if name not in figures)
 
-    def growth(self, figures, form):
-        print(f"\n{'adding n items':28}{'n':>8}{'module':>14}{'per item':>12}{'floor':>14}"
-              f"{'growth':>8}")
-        last = {}
-        judged = set()
-        for name, (module, floor) in figures.items():
-            added = ADDED.match(name)
-            if not added:
+    def fillings(self, figures, form, judged):
+        """growth: what ten times as many items cost; 10 is linear, 100 quadratic."""
+        print(f"\n{'filling a bar':28}{'n':>8}{'module':>16}{'growth':>8}{'QTabBar':>16}{'growth':>8}"
+              f"{'ratio':>8}")
+        for how, count in FILLINGS:
+            name = f"fill {count} {how}"
+            if name not in figures:
+                if judged:
+                    self.without_figures([name])
                 continue
-            count, how = int(added[1]), added[2]
-            line = (f"{how:28}{count:8}{form(module):>14}{form(module / count):>12}"
-                    f"{form(floor):>14}")
-            if how in last:
-                growth = module / last[how]
-                line += f"{growth:8.1f}"
-                if count == 10000:
-                    line += f"  <= {GROWTH_LIMIT}  {self.verdict(growth <= GROWTH_LIMIT)}"
-                    judged.add(how)
-            last[how] = module
+            line = f"{how:28}{count:8}"
+            fewer = figures.get(f"fill {count // 10} {how}")
+            for side, figure in enumerate(figures[name]):
+                growth = f"{figure / fewer[side]:.1f}" if fewer else ""
+                line += f"{form(figure):>16}{growth:>8}"
+            ratio = figures[name][0] / figures[name][1]
+            line += f"{ratio:8.3f}"
+            if judged:
+                line += f"  < 1  {self.verdict(ratio < 1)}"
             print(line)
-        self.without_figures(f"growth, {how}" for how in GROWTHS if how not in judged)
 
     def captures(self, figures):
         print()
@@ -118,17 +116,13 @@ def microseconds(value):
 
 
 def pairs(figures):
-    """{"name/module": a, "name/floor": b} as {name: (a, b)}, in the order of the names."""
-    names = dict.fromkeys(label.rsplit("/", 1)[0] for label in figures)
-    order = sorted(names, key=lambda name: (bool(ADDED.match(name)), sort_key(name)))
-    sides = ("module", "floor")
-    return {name: tuple(figures[f"{name}/{side}"] for side in sides) for name in order
-            if all(f"{name}/{side}" in figures for side in sides)}
-
-
-def sort_key(name):
-    added = ADDED.match(name)
-    return (added[2], int(added[1])) if added else (name, 0)
+    """{"name/module": a, "name/other": b} as {name: (a, b)}, in the order of the names."""
+    sides = {}
+    for label, figure in figures.items():
+        name, side = label.rsplit("/", 1)
+        sides.setdefault(name, {})[side == "module"] = figure
+    return {name: (both[True], both[False]) for name, both in sorted(sides.items())
+            if len(both) == 2}
 
 
 def read_times(path):
@@ -161,7 +155,7 @@ def main():
         figures = read_times(paths[0])
         print("CPU time, the least of all repetitions")
         report.ratios(figures, RATIO_TARGETS[kind], microseconds)
-        report.growth(figures, microseconds)
+        report.fillings(figures, microseconds, judged=False)
         report.captures(figures)
         print("\nHeap")
         report.memory(read_memory(paths[1]))
@@ -169,7 +163,7 @@ def main():
         figures = read_counts(paths[0])
         print("Instructions")
         report.ratios(figures, RATIO_TARGETS[kind], whole)
-        report.growth(figures, whole)
+        report.fillings(figures, whole, judged=True)
     print(f"\n{report.missed} of the targets above missed" if report.missed
           else "\nEvery target above met")
     return 1 if report.missed else 0
