@@ -11,6 +11,10 @@ package=$(find "$work" -maxdepth 1 -name '*.deb')
 dpkg-deb -f "$package" Depends | grep -q libqt5widgets5
 mkdir "$work/root" "$work/home"
 dpkg-deb -x "$package" "$work/root"
+# The users' component, and nothing for developers.
+cmake --install "$build" --prefix "$work/runtime" --component runtime >>"$work/log"
+list() { (cd "$1" && find . -type f | sort); }
+diff <(list "$work/root/usr") <(list "$work/runtime")
 
 export HOME=$work/home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 "$work/root/usr/bin/tradeclient" --version

@@ -1,22 +1,36 @@
 #!/usr/bin/env bash
-# run.sh BUILD SOURCE: installs the build tree to a fresh prefix, builds the guide's minimal host
-# as a project of its own against it, and opens the dialog with that host.
+# run.sh BUILD SOURCE: installs the build tree to a fresh prefix, a component at a time, builds the
+# guide's minimal host as a project of its own against it, and opens the dialog with that host.
 set -euo pipefail
 build=$1
 source=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-cmake --install "$build" --prefix "$work/prefix" >"$work/install.log"
-find "$work/prefix" -type f | sed "s|$work/prefix/||" | sort >"$work/files"
+# Two components, without a file that both have.
+cmake --install "$build" --prefix "$work/prefix" --component runtime >"$work/install.log"
+(cd "$work/prefix" && find . -type f | cut -c3- | sort) >"$work/runtime"
+cmake --install "$build" --prefix "$work/sdk" --component sdk >>"$work/install.log"
+(cd "$work/sdk" && find . -type f | cut -c3- | sort) >"$work/files"
+[ -z "$(comm -12 "$work/runtime" "$work/files")" ]
+for file in 'lib.*/libtradeConfig.so' 'lib.*/libskin.so' bin/tradeclient bin/restart \
+    share/tradeConfig/skins/light/skin.json share/tradeConfig/skins/dark/skin.json; do
+    grep -qx "$file" "$work/runtime" || { echo "not of the runtime: $file"; exit 1; }
+done
+! grep -vE '^(bin/(tradeclient|restart)|lib.*/lib(tradeConfig|skin)\.so|share/tradeConfig/skins/.*)$' \
+    "$work/runtime" || { echo "of no use to users"; exit 1; }
 for file in include/tradeConfig/ITrade.h include/tradeConfig/ModuleEntry.h \
     include/tradeConfig/HostPlatform.h include/tradeConfig/CSkin.h \
     include/tradeConfig/skin/SkinKeys.h include/libskin/SkinLibrary.h \
-    'lib.*/libtradeConfig.so' 'lib.*/libskin.so' bin/tradeclient bin/restart \
-    share/tradeConfig/skins/light/skin.json share/tradeConfig/skins/dark/skin.json \
+    share/tradeConfig/translations/tradeConfig_zh_TW.qm \
+    'lib.*/tradeConfig/plugins/designer/libtradeConfigDesigner.so' \
     'lib.*/cmake/tradeConfig/tradeConfigConfig.cmake' 'lib.*/pkgconfig/tradeConfig.pc'; do
-    grep -qx "$file" "$work/files" || { echo "not installed: $file"; exit 1; }
+    grep -qx "$file" "$work/files" || { echo "not of the sdk: $file"; exit 1; }
 done
+# Together in one prefix, they are what is installed without a choice.
+cmake --install "$build" --prefix "$work/prefix" --component sdk >>"$work/install.log"
+cmake --install "$build" --prefix "$work/whole" >>"$work/install.log"
+diff -r "$work/prefix" "$work/whole"
 
 export HOME=$work/home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 mkdir "$HOME"
