@@ -11,8 +11,6 @@ set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
 
 if(APPLE)
     set(CPACK_GENERATOR DragNDrop)
-    configure_file(cmake/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/Info.plist DESTINATION ${bundle})
 else()
     set(CPACK_GENERATOR DEB)
     set(CPACK_DEB_COMPONENT_INSTALL ON)

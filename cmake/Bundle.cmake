@@ -1,0 +1,3 @@
+# What makes the installed client an application bundle.
+configure_file(cmake/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/Info.plist DESTINATION ${bundle})
