@@ -63,10 +63,10 @@ class tst_ClockJumps : public QObject {
 private Q_SLOTS:
     void init();
     void clocksAreTheTests();
-    void countdown_data() { jumps(); }
+    void countdown_data();
     void countdown();
     void countdownAfterAStandstill();
-    void fade_data() { jumps(); }
+    void fade_data();
     void fade();
     void fadeAfterAStandstill();
 
@@ -135,6 +135,8 @@ void tst_ClockJumps::clocksAreTheTests()
     QVERIFY(before.secsTo(QDateTime::currentDateTimeUtc()) < 5060);
 }
 
+void tst_ClockJumps::countdown_data() { jumps(); }
+
 void tst_ClockJumps::countdown()
 {
     QFETCH(int, seconds);
@@ -174,6 +176,8 @@ void tst_ClockJumps::countdownAfterAStandstill()
     pass(500);
     QCOMPARE(box.countdown, 2);
 }
+
+void tst_ClockJumps::fade_data() { jumps(); }
 
 void tst_ClockJumps::fade()
 {

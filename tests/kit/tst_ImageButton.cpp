@@ -6,30 +6,6 @@
 #include <QAccessible>
 #include <QPainter>
 
-class tst_ImageButton : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
-    void afterConstruction();
-    void paintsNothingWithoutAnImage();
-    void frameByState_data();
-    void frameByState();
-    void optionsAreForwarded_data();
-    void optionsAreForwarded();
-    void emptyImagesFallBack_data();
-    void emptyImagesFallBack();
-    void emptyNormalImageIsAnError();
-    void statesFollowMouseAndSignals();
-    void keyboardPressesToo();
-    void everyChangeRepaints();
-    void drawsTextOverTheImage();
-    void textIndentMovesTheCentre();
-    void textStandsInTheMiddle();
-    void disablingEndsThePress();
-    void isAPushButtonToScreenReaders();
-};
-
 namespace {
 
 QStringList painted(CImageButton& button)
@@ -60,6 +36,32 @@ double inkCentre(CImageButton& button)
 }
 
 } // namespace
+
+class tst_ImageButton : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void afterConstruction();
+    void paintsNothingWithoutAnImage();
+    void frameByState_data();
+    void frameByState();
+    void optionsAreForwarded_data();
+    void optionsAreForwarded();
+    void emptyImagesFallBack_data();
+    void emptyImagesFallBack();
+    void emptyNormalImageIsAnError();
+    void statesFollowMouseAndSignals();
+    void keyboardPressesToo();
+    void everyChangeRepaints();
+    void drawsTextOverTheImage();
+    void textIndentMovesTheCentre();
+    void textStandsInTheMiddle();
+    void disablingEndsThePress();
+    void isAPushButtonToScreenReaders();
+};
+
+void tst_ImageButton::init() { RecordingSkin::reset(); }
 
 void tst_ImageButton::afterConstruction()
 {

@@ -9,21 +9,6 @@
 
 #include <QMenu>
 
-// The service may be another one at any time, so whoever draws or measures asks for it each time.
-class tst_SkinInstance : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
-    void navigationList();
-    void captionBar();
-    void imageButton();
-    void messageBox();
-    void switchBar_data();
-    void switchBar();
-    void tipDoesWithout();
-};
-
 namespace {
 
 struct Asked {
@@ -43,6 +28,23 @@ Asked painted(QWidget& widget)
 }
 
 } // namespace
+
+/// The service may be another one at any time, so whoever draws or measures asks for it each time.
+class tst_SkinInstance : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void navigationList();
+    void captionBar();
+    void imageButton();
+    void messageBox();
+    void switchBar_data();
+    void switchBar();
+    void tipDoesWithout();
+};
+
+void tst_SkinInstance::init() { RecordingSkin::reset(); }
 
 void tst_SkinInstance::navigationList()
 {

@@ -4,6 +4,23 @@
 #include <QGraphicsOpacityEffect>
 #include <QPropertyAnimation>
 
+namespace {
+
+QList<QPropertyAnimation*> fades(const CTipLabel& label)
+{
+    return label.findChildren<QPropertyAnimation*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+double opacity(const CTipLabel& label)
+{
+    const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(label.graphicsEffect());
+    return effect ? effect->opacity() : -1.0;
+}
+
+void deleteWhatIsDue() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+} // namespace
+
 class tst_TipLabel : public QObject {
     Q_OBJECT
 
@@ -23,23 +40,6 @@ private Q_SLOTS:
     void labelMayDieDuringTheFade();
     void thousandFadesLeaveNothing();
 };
-
-namespace {
-
-QList<QPropertyAnimation*> fades(const CTipLabel& label)
-{
-    return label.findChildren<QPropertyAnimation*>(QString(), Qt::FindDirectChildrenOnly);
-}
-
-double opacity(const CTipLabel& label)
-{
-    const auto* effect = qobject_cast<QGraphicsOpacityEffect*>(label.graphicsEffect());
-    return effect ? effect->opacity() : -1.0;
-}
-
-void deleteWhatIsDue() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-} // namespace
 
 void tst_TipLabel::construction_data()
 {

@@ -3,6 +3,12 @@
 
 #include <QImage>
 
+namespace {
+
+int widestLine(const QWidget& widget) { return 80 * widget.fontMetrics().averageCharWidth(); }
+
+} // namespace
+
 class tst_WrapLabel : public QObject {
     Q_OBJECT
 
@@ -14,12 +20,6 @@ private Q_SLOTS:
     void takesThePaletteColour();
     void goesBackToAPlainLabel();
 };
-
-namespace {
-
-int widestLine(const QWidget& widget) { return 80 * widget.fontMetrics().averageCharWidth(); }
-
-} // namespace
 
 void tst_WrapLabel::isAPlainLabelForOrdinaryText_data()
 {

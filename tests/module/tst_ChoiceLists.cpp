@@ -51,13 +51,13 @@ class tst_ChoiceLists : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void itemsInOrder_data() { rows(); }
+    void itemsInOrder_data();
     void itemsInOrder();
-    void translatedItems_data() { rows(); }
+    void translatedItems_data();
     void translatedItems();
     void onlyTheSeventeen();
     void secondFillAppends();
-    void dialogFillsOnce_data() { rows(); }
+    void dialogFillsOnce_data();
     void dialogFillsOnce();
 
 private:
@@ -71,6 +71,8 @@ void tst_ChoiceLists::rows()
     for (int row = 0; row < int(std::size(expected)); ++row)
         QTest::newRow(expected[row].combo) << row;
 }
+
+void tst_ChoiceLists::itemsInOrder_data() { rows(); }
 
 void tst_ChoiceLists::itemsInOrder()
 {
@@ -86,6 +88,8 @@ void tst_ChoiceLists::itemsInOrder()
         QVERIFY(combo.itemIcon(index).isNull());
     }
 }
+
+void tst_ChoiceLists::translatedItems_data() { rows(); }
 
 void tst_ChoiceLists::translatedItems()
 {
@@ -123,6 +127,8 @@ void tst_ChoiceLists::secondFillAppends()
     QCOMPARE(itemsOf(*form.ui.comboBox_system_hqLink), split("是|否|是|否"));
     QCOMPARE(form.ui.comboBox_system_hqLink->currentIndex(), 0);
 }
+
+void tst_ChoiceLists::dialogFillsOnce_data() { rows(); }
 
 void tst_ChoiceLists::dialogFillsOnce()
 {

@@ -223,25 +223,29 @@ private Q_SLOTS:
     void dialogKeepsItsSizeWhenShown();
 
 private:
-    BareForm form;
+    BareForm m_form;
 
-    QWidget* find(const QString& name) const
-    {
-        const auto found = form.widget.findChildren<QWidget*>(name);
-        return found.size() == 1 ? found.first() : nullptr;
-    }
-    QWidget* find(const char* name) const { return find(latin(name)); }
+    QWidget* find(const QString& name) const;
+    QWidget* find(const char* name) const;
 };
+
+QWidget* tst_FormCatalogue::find(const QString& name) const
+{
+    const auto found = m_form.widget.findChildren<QWidget*>(name);
+    return found.size() == 1 ? found.first() : nullptr;
+}
+
+QWidget* tst_FormCatalogue::find(const char* name) const { return find(latin(name)); }
 
 void tst_FormCatalogue::topLevel()
 {
-    QCOMPARE(form.widget.objectName(), QStringLiteral("CTradeConfigWidget"));
-    QCOMPARE(form.widget.windowTitle(), QStringLiteral("CTradeConfigWidget"));
-    QCOMPARE(form.widget.size(), QSize(659, 641));
-    QCOMPARE(form.widget.font().family(), QStringLiteral("Arial"));
-    QCOMPARE(form.widget.font().pointSize(), 11);
-    QVERIFY(!form.widget.font().bold());
-    const QLayout* const rows = form.widget.layout();
+    QCOMPARE(m_form.widget.objectName(), QStringLiteral("CTradeConfigWidget"));
+    QCOMPARE(m_form.widget.windowTitle(), QStringLiteral("CTradeConfigWidget"));
+    QCOMPARE(m_form.widget.size(), QSize(659, 641));
+    QCOMPARE(m_form.widget.font().family(), QStringLiteral("Arial"));
+    QCOMPARE(m_form.widget.font().pointSize(), 11);
+    QVERIFY(!m_form.widget.font().bold());
+    const QLayout* const rows = m_form.widget.layout();
     const QWidget* const expected[]
         = {find("widget"), find("stackedWidget"), find("line_16"), find("widget_2")};
     QCOMPARE(rows->count(), 4);
@@ -281,13 +285,13 @@ void tst_FormCatalogue::nothingElse()
         known << latin(control.name);
     QCOMPARE(known.size(), int(std::size(controls)));
     QStringList strangers;
-    for (const QWidget* const widget : form.widget.findChildren<QWidget*>()) {
+    for (const QWidget* const widget : m_form.widget.findChildren<QWidget*>()) {
         // What lies inside a control is the toolkit's own.
         const QWidget* const parent = widget->parentWidget();
         if (parent->metaObject()->className() != QByteArray("QWidget")
             && parent->metaObject()->className() != QByteArray("QStackedWidget"))
             continue;
-        if (parent != &form.widget && !known.contains(parent->objectName()))
+        if (parent != &m_form.widget && !known.contains(parent->objectName()))
             continue;
         if (!known.contains(widget->objectName()))
             strangers << widget->objectName();
@@ -494,7 +498,7 @@ void tst_FormCatalogue::boxLayouts()
 {
     QFETCH(int, spacing);
     QFETCH(QMargins, margins);
-    const auto* const layout = form.widget.findChild<QBoxLayout*>(latin(QTest::currentDataTag()));
+    const auto* const layout = m_form.widget.findChild<QBoxLayout*>(latin(QTest::currentDataTag()));
     QVERIFY(layout);
     if (spacing >= 0)
         QCOMPARE(layout->spacing(), spacing);
@@ -525,7 +529,7 @@ void tst_FormCatalogue::splittingGrids_data()
 void tst_FormCatalogue::splittingGrids()
 {
     QFETCH(QStringList, rows);
-    const auto* const grid = form.widget.findChild<QGridLayout*>(latin(QTest::currentDataTag()));
+    const auto* const grid = m_form.widget.findChild<QGridLayout*>(latin(QTest::currentDataTag()));
     QVERIFY(grid);
     QCOMPARE(grid->horizontalSpacing(), 6);
     QCOMPARE(grid->verticalSpacing(), 6);
@@ -673,37 +677,37 @@ void tst_FormCatalogue::pagesAreMadeInTheirStacks()
 
 void tst_FormCatalogue::membersAreTheToolkitsOwn()
 {
-    QCOMPARE((form.ui.*topStack)->objectName(), QStringLiteral("stackedWidget"));
-    QCOMPARE((form.ui.*rowLabel)->objectName(), QStringLiteral("label_14"));
+    QCOMPARE((m_form.ui.*topStack)->objectName(), QStringLiteral("stackedWidget"));
+    QCOMPARE((m_form.ui.*rowLabel)->objectName(), QStringLiteral("label_14"));
     QStringList names;
-    for (QLabel* const label : {form.ui.label_2, form.ui.label_35})
+    for (QLabel* const label : {m_form.ui.label_2, m_form.ui.label_35})
         names << label->objectName();
     QCOMPARE(names, QStringList({QStringLiteral("label_2"), QStringLiteral("label_35")}));
 }
 
 void tst_FormCatalogue::startPages()
 {
-    QCOMPARE(form.ui.stackedWidget->currentIndex(), 0);
-    QCOMPARE(form.ui.stackedWidget_system->currentIndex(), 2);
-    QCOMPARE(form.ui.stackedWidget_trade->currentIndex(), 0);
-    QCOMPARE(form.ui.stackedWidget_shortcut->currentIndex(), 2);
+    QCOMPARE(m_form.ui.stackedWidget->currentIndex(), 0);
+    QCOMPARE(m_form.ui.stackedWidget_system->currentIndex(), 2);
+    QCOMPARE(m_form.ui.stackedWidget_trade->currentIndex(), 0);
+    QCOMPARE(m_form.ui.stackedWidget_shortcut->currentIndex(), 2);
 }
 
 void tst_FormCatalogue::initialValues()
 {
-    const auto combos = form.widget.findChildren<QComboBox*>();
+    const auto combos = m_form.widget.findChildren<QComboBox*>();
     QCOMPARE(combos.size(), 19);
     for (const QComboBox* const combo : combos) {
         QCOMPARE(combo->count(), 0);
         QVERIFY(!combo->isEditable());
     }
-    const auto boxes = form.widget.findChildren<QCheckBox*>();
+    const auto boxes = m_form.widget.findChildren<QCheckBox*>();
     QCOMPARE(boxes.size(), 6);
     for (const QCheckBox* const box : boxes) {
         QVERIFY(!box->isChecked());
         QVERIFY(!box->isTristate());
     }
-    for (const QTableWidget* const table : form.widget.findChildren<QTableWidget*>()) {
+    for (const QTableWidget* const table : m_form.widget.findChildren<QTableWidget*>()) {
         QCOMPARE(table->rowCount(), 0);
         QCOMPARE(table->columnCount(), 0);
     }

@@ -55,7 +55,7 @@ private:
                       const QString& name = QStringLiteral("tradeclient"),
                       const QStringList& more = {});
     QByteArray homePath(const QJsonObject& answers) const;
-    QString path(const QString& name) const { return m_scratch->filePath(name); }
+    QString path(const QString& name) const;
 
     QScopedPointer<QTemporaryDir> m_scratch;
     QProcessEnvironment m_environment;
@@ -95,6 +95,8 @@ QByteArray tst_HostPlatformUnix::homePath(const QJsonObject& answers) const
 {
     return QByteArray::fromHex(answers.value(QStringLiteral("home")).toString().toLatin1());
 }
+
+QString tst_HostPlatformUnix::path(const QString& name) const { return m_scratch->filePath(name); }
 
 void tst_HostPlatformUnix::directoryThere()
 {

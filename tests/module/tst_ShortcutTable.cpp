@@ -90,27 +90,27 @@ private Q_SLOTS:
     void firstDuplicate();
 
     void noKeyNoEntry();
-    void freeKeyIsAccepted_data() { bothTables(); }
+    void freeKeyIsAccepted_data();
     void freeKeyIsAccepted();
-    void everyRowStoresItsOwnKey_data() { bothTables(); }
+    void everyRowStoresItsOwnKey_data();
     void everyRowStoresItsOwnKey();
-    void duplicateIsRefused_data() { bothTables(); }
+    void duplicateIsRefused_data();
     void duplicateIsRefused();
-    void duplicatesAreFoundInAscendingOrder_data() { bothTables(); }
+    void duplicatesAreFoundInAscendingOrder_data();
     void duplicatesAreFoundInAscendingOrder();
-    void duplicateStaysStored_data() { bothTables(); }
+    void duplicateStaysStored_data();
     void duplicateStaysStored();
-    void correctionEnablesAllAgain_data() { bothTables(); }
+    void correctionEnablesAllAgain_data();
     void correctionEnablesAllAgain();
-    void comparisonIsExact_data() { bothTables(); }
+    void comparisonIsExact_data();
     void comparisonIsExact();
-    void emptyTextShowsEmpty_data() { bothTables(); }
+    void emptyTextShowsEmpty_data();
     void emptyTextShowsEmpty();
-    void emptyTextKeepsAnError_data() { bothTables(); }
+    void emptyTextKeepsAnError_data();
     void emptyTextKeepsAnError();
-    void tablesAreNotCompared_data() { bothTables(); }
+    void tablesAreNotCompared_data();
     void tablesAreNotCompared();
-    void confirmRefusesAnError_data() { bothTables(); }
+    void confirmRefusesAnError_data();
     void confirmRefusesAnError();
 
     void stockRefusesGlobalHotkeys_data();
@@ -122,24 +122,24 @@ private Q_SLOTS:
     void creditIgnoresItsOwnKey();
     void creditAloneWritesTheList();
 
-    void sendingEditorIsMarked_data() { bothTables(); }
+    void sendingEditorIsMarked_data();
     void sendingEditorIsMarked();
-    void slotMarksItsRow_data() { bothTables(); }
+    void slotMarksItsRow_data();
     void slotMarksItsRow();
 
     void setLineEditEnableLeavesTheRow();
 
     void textsAreTranslated();
-    void everyRowOfTheTableIsFilled_data() { bothTables(); }
+    void everyRowOfTheTableIsFilled_data();
     void everyRowOfTheTableIsFilled();
-    void theCellIsStored_data() { bothTables(); }
+    void theCellIsStored_data();
     void theCellIsStored();
-    void anotherCellIsStored_data() { bothTables(); }
+    void anotherCellIsStored_data();
     void anotherCellIsStored();
-    void rowsOutsideTheTable_data() { bothTables(); }
+    void rowsOutsideTheTable_data();
     void rowsOutsideTheTable();
     void listShorterThanTheTable();
-    void missingPartsAreLeftOut_data() { bothTables(); }
+    void missingPartsAreLeftOut_data();
     void missingPartsAreLeftOut();
     void marksKeepTheFont();
 
@@ -355,6 +355,8 @@ void tst_ShortcutTable::noKeyNoEntry()
     QCOMPARE(editor->styleSheet(), QStringLiteral("border:0px;"));
 }
 
+void tst_ShortcutTable::freeKeyIsAccepted_data() { bothTables(); }
+
 void tst_ShortcutTable::freeKeyIsAccepted()
 {
     QFETCH(bool, credit);
@@ -381,6 +383,8 @@ void tst_ShortcutTable::freeKeyIsAccepted()
     }
 }
 
+void tst_ShortcutTable::everyRowStoresItsOwnKey_data() { bothTables(); }
+
 void tst_ShortcutTable::everyRowStoresItsOwnKey()
 {
     QFETCH(bool, credit);
@@ -397,6 +401,8 @@ void tst_ShortcutTable::everyRowStoresItsOwnKey()
     for (int entry = 0; entry < 13; ++entry)
         QCOMPARE(side.dialog.trade.text(texts, entry), "Ctrl+Alt+" + lettersByEntry.mid(entry, 1));
 }
+
+void tst_ShortcutTable::duplicateIsRefused_data() { bothTables(); }
 
 void tst_ShortcutTable::duplicateIsRefused()
 {
@@ -419,6 +425,8 @@ void tst_ShortcutTable::duplicateIsRefused()
     QVERIFY(other->cellWidget(0, 1)->isEnabled());
 }
 
+void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder_data() { bothTables(); }
+
 void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
 {
     QFETCH(bool, credit);
@@ -434,6 +442,8 @@ void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
     QCOMPARE(side.status(2), QStringLiteral("与委托重复"));
 }
 
+void tst_ShortcutTable::duplicateStaysStored_data() { bothTables(); }
+
 void tst_ShortcutTable::duplicateStaysStored()
 {
     QFETCH(bool, credit);
@@ -442,6 +452,8 @@ void tst_ShortcutTable::duplicateStaysStored()
     QCOMPARE(side.texts.at(4), credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A"));
     QCOMPARE(side.editor(4).text(), side.texts.at(4));
 }
+
+void tst_ShortcutTable::correctionEnablesAllAgain_data() { bothTables(); }
 
 void tst_ShortcutTable::correctionEnablesAllAgain()
 {
@@ -461,6 +473,8 @@ void tst_ShortcutTable::correctionEnablesAllAgain()
     QCOMPARE(side.enabledRows(), allRows());
 }
 
+void tst_ShortcutTable::comparisonIsExact_data() { bothTables(); }
+
 void tst_ShortcutTable::comparisonIsExact()
 {
     QFETCH(bool, credit);
@@ -474,6 +488,8 @@ void tst_ShortcutTable::comparisonIsExact()
     side.capture(5, Qt::Key_F7);
     QCOMPARE(side.status(5), QStringLiteral("与卖出股票重复"));
 }
+
+void tst_ShortcutTable::emptyTextShowsEmpty_data() { bothTables(); }
 
 void tst_ShortcutTable::emptyTextShowsEmpty()
 {
@@ -493,6 +509,8 @@ void tst_ShortcutTable::emptyTextShowsEmpty()
     QCOMPARE(side.editor(5).text(), QStringLiteral("空"));
 }
 
+void tst_ShortcutTable::emptyTextKeepsAnError_data() { bothTables(); }
+
 void tst_ShortcutTable::emptyTextKeepsAnError()
 {
     QFETCH(bool, credit);
@@ -507,6 +525,8 @@ void tst_ShortcutTable::emptyTextKeepsAnError()
     QCOMPARE(side.enabledRows(), QList<int>{4});
 }
 
+void tst_ShortcutTable::tablesAreNotCompared_data() { bothTables(); }
+
 void tst_ShortcutTable::tablesAreNotCompared()
 {
     QFETCH(bool, credit);
@@ -516,6 +536,8 @@ void tst_ShortcutTable::tablesAreNotCompared()
     QCOMPARE(side.editor(4).styleSheet(), green);
     QVERIFY(side.entry());
 }
+
+void tst_ShortcutTable::confirmRefusesAnError_data() { bothTables(); }
 
 void tst_ShortcutTable::confirmRefusesAnError()
 {
@@ -660,6 +682,8 @@ void tst_ShortcutTable::creditAloneWritesTheList()
     QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 2);
 }
 
+void tst_ShortcutTable::sendingEditorIsMarked_data() { bothTables(); }
+
 void tst_ShortcutTable::sendingEditorIsMarked()
 {
     QFETCH(bool, credit);
@@ -674,6 +698,8 @@ void tst_ShortcutTable::sendingEditorIsMarked()
     QCOMPARE(side.editor(3).text(), QStringLiteral("空"));
     QVERIFY(side.editor(5).text() != QStringLiteral("空"));
 }
+
+void tst_ShortcutTable::slotMarksItsRow_data() { bothTables(); }
 
 void tst_ShortcutTable::slotMarksItsRow()
 {
@@ -735,6 +761,8 @@ void tst_ShortcutTable::textsAreTranslated()
     QCOMPARE(side.editor(4).text(), QStringLiteral("T:空"));
 }
 
+void tst_ShortcutTable::everyRowOfTheTableIsFilled_data() { bothTables(); }
+
 void tst_ShortcutTable::everyRowOfTheTableIsFilled()
 {
     QFETCH(bool, credit);
@@ -766,6 +794,8 @@ void tst_ShortcutTable::everyRowOfTheTableIsFilled()
     }
 }
 
+void tst_ShortcutTable::theCellIsStored_data() { bothTables(); }
+
 void tst_ShortcutTable::theCellIsStored()
 {
     QFETCH(bool, credit);
@@ -779,6 +809,8 @@ void tst_ShortcutTable::theCellIsStored()
     QVERIFY(side.texts.at(7) != QStringLiteral("F7"));
     QCOMPARE(side.dialog.trade.text(keys, 7), QByteArray("F7"));
 }
+
+void tst_ShortcutTable::anotherCellIsStored_data() { bothTables(); }
 
 void tst_ShortcutTable::anotherCellIsStored()
 {
@@ -805,6 +837,8 @@ void tst_ShortcutTable::anotherCellIsStored()
     QCOMPARE(side.dialog.trade.text(keys, 12), QByteArray());
     QCOMPARE(side.dialog.trade.saves, 4);
 }
+
+void tst_ShortcutTable::rowsOutsideTheTable_data() { bothTables(); }
 
 void tst_ShortcutTable::rowsOutsideTheTable()
 {
@@ -843,6 +877,8 @@ void tst_ShortcutTable::listShorterThanTheTable()
     QVERIFY(!credit.entry());
     QCOMPARE(credit.texts, QStringList{QStringLiteral("F7")});
 }
+
+void tst_ShortcutTable::missingPartsAreLeftOut_data() { bothTables(); }
 
 void tst_ShortcutTable::missingPartsAreLeftOut()
 {

@@ -207,31 +207,31 @@ private Q_SLOTS:
     void rules();
     void upperLimitSeesHiddenCompanions_data();
     void upperLimitSeesHiddenCompanions();
-    void upperBelowMinimumRevealsNothing_data() { bothGroups(); }
+    void upperBelowMinimumRevealsNothing_data();
     void upperBelowMinimumRevealsNothing();
-    void lowerLimitSeesHiddenUpper_data() { bothGroups(); }
+    void lowerLimitSeesHiddenUpper_data();
     void lowerLimitSeesHiddenUpper();
-    void validUpperClearsALowerLimitOf50_data() { bothGroups(); }
+    void validUpperClearsALowerLimitOf50_data();
     void validUpperClearsALowerLimitOf50();
-    void validUpperClearsBoth_data() { bothGroups(); }
+    void validUpperClearsBoth_data();
     void validUpperClearsBoth();
-    void validUpperGivesNoNewEntries_data() { bothGroups(); }
+    void validUpperGivesNoNewEntries_data();
     void validUpperGivesNoNewEntries();
-    void validLowerClearsTheUpper_data() { bothGroups(); }
+    void validLowerClearsTheUpper_data();
     void validLowerClearsTheUpper();
-    void validDecrementClearsTheUpper_data() { bothGroups(); }
+    void validDecrementClearsTheUpper_data();
     void validDecrementClearsTheUpper();
-    void validBaseClearsNothing_data() { bothGroups(); }
+    void validBaseClearsNothing_data();
     void validBaseClearsNothing();
-    void failingClearsNothing_data() { bothGroups(); }
+    void failingClearsNothing_data();
     void failingClearsNothing();
-    void groupsStandApart_data() { bothGroups(); }
+    void groupsStandApart_data();
     void groupsStandApart();
     void unknownNameClearsNothing();
 
-    void nothingWhileTyping_data() { bothGroups(); }
+    void nothingWhileTyping_data();
     void nothingWhileTyping();
-    void unvisitedFieldsHaveNoEntry_data() { bothGroups(); }
+    void unvisitedFieldsHaveNoEntry_data();
     void unvisitedFieldsHaveNoEntry();
     void otherFieldsAreNotChecked();
     void noEventIsConsumed();
@@ -239,7 +239,7 @@ private Q_SLOTS:
     void tipPlace_data();
     void tipPlace();
     void tipForNoWidget();
-    void tipIsReused_data() { bothGroups(); }
+    void tipIsReused_data();
     void tipIsReused();
     void tipGoesAwayByItself();
     void leavingTheWindowChecksToo();
@@ -252,28 +252,28 @@ private Q_SLOTS:
     void presetsKeepMarks();
     void presetsWhileLoading_data();
     void presetsWhileLoading();
-    void enabling_data() { bothGroups(); }
+    void enabling_data();
     void enabling();
 
-    void riseStates_data() { bothPrices(); }
+    void riseStates_data();
     void riseStates();
     void riseKeepsItsEntries_data();
     void riseKeepsItsEntries();
-    void riseDoesNotComplete_data() { bothPrices(); }
+    void riseDoesNotComplete_data();
     void riseDoesNotComplete();
-    void riseOfAnotherEntryStays_data() { bothPrices(); }
+    void riseOfAnotherEntryStays_data();
     void riseOfAnotherEntryStays();
-    void riseArrowsChooseAnother_data() { bothPrices(); }
+    void riseArrowsChooseAnother_data();
     void riseArrowsChooseAnother();
-    void riseValidator_data() { bothPrices(); }
+    void riseValidator_data();
     void riseValidator();
-    void riseFocusOrder_data() { bothPrices(); }
+    void riseFocusOrder_data();
     void riseFocusOrder();
-    void riseLeavingUnedited_data() { bothPrices(); }
+    void riseLeavingUnedited_data();
     void riseLeavingUnedited();
-    void riseEmptyIsZero_data() { bothPrices(); }
+    void riseEmptyIsZero_data();
     void riseEmptyIsZero();
-    void risePopupEndsTheEditing_data() { bothPrices(); }
+    void risePopupEndsTheEditing_data();
     void risePopupEndsTheEditing();
 
     void confirmRefusesInKeyOrder();
@@ -417,6 +417,8 @@ void tst_SplitSettings::upperLimitSeesHiddenCompanions()
     QCOMPARE(session.rows(), QStringLiteral("ss"));
 }
 
+void tst_SplitSettings::upperBelowMinimumRevealsNothing_data() { bothGroups(); }
+
 void tst_SplitSettings::upperBelowMinimumRevealsNothing()
 {
     QFETCH(int, group);
@@ -425,6 +427,8 @@ void tst_SplitSettings::upperBelowMinimumRevealsNothing()
     QCOMPARE(session.state(), QStringLiteral("-r-- -0--"));
     QCOMPARE(session.rows(), QStringLiteral("--"));
 }
+
+void tst_SplitSettings::lowerLimitSeesHiddenUpper_data() { bothGroups(); }
 
 void tst_SplitSettings::lowerLimitSeesHiddenUpper()
 {
@@ -435,6 +439,8 @@ void tst_SplitSettings::lowerLimitSeesHiddenUpper()
     QCOMPARE(session.state(), QStringLiteral("--r- --0-"));
     QVERIFY(session.edit(Upper).isHidden());
 }
+
+void tst_SplitSettings::validUpperClearsALowerLimitOf50_data() { bothGroups(); }
 
 void tst_SplitSettings::validUpperClearsALowerLimitOf50()
 {
@@ -448,6 +454,8 @@ void tst_SplitSettings::validUpperClearsALowerLimitOf50()
     session.enter(Lower, QStringLiteral("50"));
     QCOMPARE(session.state(), QStringLiteral("-gr- -10-"));
 }
+
+void tst_SplitSettings::validUpperClearsBoth_data() { bothGroups(); }
 
 void tst_SplitSettings::validUpperClearsBoth()
 {
@@ -463,6 +471,8 @@ void tst_SplitSettings::validUpperClearsBoth()
     QCOMPARE(session.state(), QStringLiteral("-ggg -111"));
 }
 
+void tst_SplitSettings::validUpperGivesNoNewEntries_data() { bothGroups(); }
+
 void tst_SplitSettings::validUpperGivesNoNewEntries()
 {
     QFETCH(int, group);
@@ -475,6 +485,8 @@ void tst_SplitSettings::validUpperGivesNoNewEntries()
     session.enter(Upper, QStringLiteral("401"));
     QCOMPARE(session.state(), QStringLiteral("-g-- -11-"));
 }
+
+void tst_SplitSettings::validLowerClearsTheUpper_data() { bothGroups(); }
 
 void tst_SplitSettings::validLowerClearsTheUpper()
 {
@@ -497,6 +509,8 @@ void tst_SplitSettings::validLowerClearsTheUpper()
     QCOMPARE(other.state(), QStringLiteral("-gg- -11-"));
 }
 
+void tst_SplitSettings::validDecrementClearsTheUpper_data() { bothGroups(); }
+
 void tst_SplitSettings::validDecrementClearsTheUpper()
 {
     QFETCH(int, group);
@@ -515,6 +529,8 @@ void tst_SplitSettings::validDecrementClearsTheUpper()
     QCOMPARE(other.state(), QStringLiteral("-g-g -1-1"));
 }
 
+void tst_SplitSettings::validBaseClearsNothing_data() { bothGroups(); }
+
 void tst_SplitSettings::validBaseClearsNothing()
 {
     QFETCH(int, group);
@@ -524,6 +540,8 @@ void tst_SplitSettings::validBaseClearsNothing()
     session.enter(Base, QStringLiteral("5000"));
     QCOMPARE(session.state(), QStringLiteral("grr- 100-"));
 }
+
+void tst_SplitSettings::failingClearsNothing_data() { bothGroups(); }
 
 void tst_SplitSettings::failingClearsNothing()
 {
@@ -535,6 +553,8 @@ void tst_SplitSettings::failingClearsNothing()
     session.enter(Base, QStringLiteral("1"));
     QCOMPARE(session.state(), QStringLiteral("rrr- 000-"));
 }
+
+void tst_SplitSettings::groupsStandApart_data() { bothGroups(); }
 
 void tst_SplitSettings::groupsStandApart()
 {
@@ -566,6 +586,8 @@ void tst_SplitSettings::unknownNameClearsNothing()
     QCOMPARE(session->inputValidity, before);
 }
 
+void tst_SplitSettings::nothingWhileTyping_data() { bothGroups(); }
+
 void tst_SplitSettings::nothingWhileTyping()
 {
     QFETCH(int, group);
@@ -586,6 +608,8 @@ void tst_SplitSettings::nothingWhileTyping()
     session.edit(Lower).setText(QStringLiteral("1"));
     QVERIFY(!session->inputValidity.contains(session.key(Lower)));
 }
+
+void tst_SplitSettings::unvisitedFieldsHaveNoEntry_data() { bothGroups(); }
 
 void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
 {
@@ -700,6 +724,8 @@ void tst_SplitSettings::tipForNoWidget()
     QVERIFY(session.tip().isVisible());
 }
 
+void tst_SplitSettings::tipIsReused_data() { bothGroups(); }
+
 void tst_SplitSettings::tipIsReused()
 {
     QFETCH(int, group);
@@ -713,6 +739,44 @@ void tst_SplitSettings::tipIsReused()
     // Accepting a value does not hide the tip early.
     session.enter(Lower, QStringLiteral("500"));
     QVERIFY(tip->isVisible());
+}
+
+void tst_SplitSettings::tipGoesAwayByItself()
+{
+    const Session session(0, 2);
+    QVERIFY(session.shown);
+    session.enter(Base, QStringLiteral("99"));
+    QVERIFY(session.tip().isVisible());
+    QVERIFY(session.tip().graphicsEffect());
+    QTRY_VERIFY(!session.tip().isVisible());
+    session->ShowInputErrorMsg(&session.edit(Upper), QStringLiteral("again"), 160);
+    QVERIFY(session.tip().isVisible());
+    QTRY_VERIFY(!session.tip().isVisible());
+}
+
+void tst_SplitSettings::leavingTheWindowChecksToo()
+{
+    const Session session(0, 2);
+    QVERIFY(session.shown);
+    for (const Qt::FocusReason reason :
+         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::OtherFocusReason}) {
+        session->inputValidity.clear();
+        session.edit(Base).setText(QStringLiteral("99"));
+        QFocusEvent leaving(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(&session.edit(Base), &leaving);
+        QCOMPARE(session->inputValidity.value(session.key(Base), true), false);
+        QCOMPARE(session.edit(Base).styleSheet(), red);
+    }
+}
+
+void tst_SplitSettings::riseChoicesAreNotCleared()
+{
+    const Rise buy(false);
+    const Rise sell(true);
+    buy.session->ReadAllParm();
+    sell.session->ReadAllParm();
+    QCOMPARE(buy.items().join(QLatin1Char(' ')), QStringLiteral("1 2 3 1 2 3"));
+    QCOMPARE(sell.items().join(QLatin1Char(' ')), QStringLiteral("10 20 30 10 20 30"));
 }
 
 void tst_SplitSettings::strategyRows_data()
@@ -845,6 +909,8 @@ void tst_SplitSettings::presetsWhileLoading()
     QCOMPARE(stock.edit(Base).text(), QStringLiteral("1234"));
 }
 
+void tst_SplitSettings::enabling_data() { bothGroups(); }
+
 void tst_SplitSettings::enabling()
 {
     QFETCH(int, group);
@@ -876,6 +942,8 @@ void tst_SplitSettings::enabling()
         QVERIFY(!session.find(name).isEnabled());
     QVERIFY(!session.find(other.strategy).isEnabled());
 }
+
+void tst_SplitSettings::riseStates_data() { bothPrices(); }
 
 void tst_SplitSettings::riseStates()
 {
@@ -944,6 +1012,8 @@ void tst_SplitSettings::riseKeepsItsEntries()
     QCOMPARE(rise.combo.currentIndex(), 0);
 }
 
+void tst_SplitSettings::riseDoesNotComplete_data() { bothPrices(); }
+
 void tst_SplitSettings::riseDoesNotComplete()
 {
     QFETCH(bool, sell);
@@ -957,6 +1027,8 @@ void tst_SplitSettings::riseDoesNotComplete()
     rise.leave();
     QCOMPARE(rise.items(), QStringList({QStringLiteral("8"), QStringLiteral("88"), rise.third}));
 }
+
+void tst_SplitSettings::riseOfAnotherEntryStays_data() { bothPrices(); }
 
 void tst_SplitSettings::riseOfAnotherEntryStays()
 {
@@ -974,6 +1046,8 @@ void tst_SplitSettings::riseOfAnotherEntryStays()
         QCOMPARE(rise.combo.currentIndex(), 0);
     }
 }
+
+void tst_SplitSettings::riseArrowsChooseAnother_data() { bothPrices(); }
 
 void tst_SplitSettings::riseArrowsChooseAnother()
 {
@@ -993,6 +1067,8 @@ void tst_SplitSettings::riseArrowsChooseAnother()
     rise.leave();
     QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
 }
+
+void tst_SplitSettings::riseValidator_data() { bothPrices(); }
 
 void tst_SplitSettings::riseValidator()
 {
@@ -1022,6 +1098,8 @@ void tst_SplitSettings::riseValidator()
     QCOMPARE(next->parent(), rise.session.get());
 }
 
+void tst_SplitSettings::riseFocusOrder_data() { bothPrices(); }
+
 void tst_SplitSettings::riseFocusOrder()
 {
     QFETCH(bool, sell);
@@ -1048,6 +1126,8 @@ void tst_SplitSettings::riseFocusOrder()
         rise.session.find(sell ? "pushButton_kc_buyRise" : "pushButton_kc_sellRise").isEnabled());
 }
 
+void tst_SplitSettings::riseLeavingUnedited_data() { bothPrices(); }
+
 void tst_SplitSettings::riseLeavingUnedited()
 {
     QFETCH(bool, sell);
@@ -1063,6 +1143,8 @@ void tst_SplitSettings::riseLeavingUnedited()
     QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
 }
 
+void tst_SplitSettings::riseEmptyIsZero_data() { bothPrices(); }
+
 void tst_SplitSettings::riseEmptyIsZero()
 {
     QFETCH(bool, sell);
@@ -1077,6 +1159,8 @@ void tst_SplitSettings::riseEmptyIsZero()
     QCOMPARE(rise.session.trade.saves, 1);
     QCOMPARE(rise.choices[2], 0);
 }
+
+void tst_SplitSettings::risePopupEndsTheEditing_data() { bothPrices(); }
 
 void tst_SplitSettings::risePopupEndsTheEditing()
 {
@@ -1122,44 +1206,6 @@ void tst_SplitSettings::confirmRefusesInKeyOrder()
     QCOMPARE(session.trade.saves, 1);
     QCOMPARE(session.trade.parm().splitMaxQty, 200);
     QVERIFY(!session->isVisible());
-}
-
-void tst_SplitSettings::tipGoesAwayByItself()
-{
-    const Session session(0, 2);
-    QVERIFY(session.shown);
-    session.enter(Base, QStringLiteral("99"));
-    QVERIFY(session.tip().isVisible());
-    QVERIFY(session.tip().graphicsEffect());
-    QTRY_VERIFY(!session.tip().isVisible());
-    session->ShowInputErrorMsg(&session.edit(Upper), QStringLiteral("again"), 160);
-    QVERIFY(session.tip().isVisible());
-    QTRY_VERIFY(!session.tip().isVisible());
-}
-
-void tst_SplitSettings::leavingTheWindowChecksToo()
-{
-    const Session session(0, 2);
-    QVERIFY(session.shown);
-    for (const Qt::FocusReason reason :
-         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::OtherFocusReason}) {
-        session->inputValidity.clear();
-        session.edit(Base).setText(QStringLiteral("99"));
-        QFocusEvent leaving(QEvent::FocusOut, reason);
-        QCoreApplication::sendEvent(&session.edit(Base), &leaving);
-        QCOMPARE(session->inputValidity.value(session.key(Base), true), false);
-        QCOMPARE(session.edit(Base).styleSheet(), red);
-    }
-}
-
-void tst_SplitSettings::riseChoicesAreNotCleared()
-{
-    const Rise buy(false);
-    const Rise sell(true);
-    buy.session->ReadAllParm();
-    sell.session->ReadAllParm();
-    QCOMPARE(buy.items().join(QLatin1Char(' ')), QStringLiteral("1 2 3 1 2 3"));
-    QCOMPARE(sell.items().join(QLatin1Char(' ')), QStringLiteral("10 20 30 10 20 30"));
 }
 
 TRADECONFIG_TEST_MAIN(tst_SplitSettings)

@@ -92,8 +92,6 @@ private Q_SLOTS:
     void languageInAReadOnlyDirectory();
 
 private:
-    QString at(const char* name) const { return m_home + QLatin1Char('/') + QLatin1String(name); }
-
     QString m_home;
     QString m_settings;
 };

@@ -120,7 +120,7 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
     QCOMPARE(buy.styleSheet(), QStringLiteral("color:red"));
     QVERIFY(!sell.isEnabled());
 
-    // The row that is disabled takes no key.
+    // The row that is disabled takes no key; one that is taken shows within ten milliseconds.
     click(sell);
     press({QStringLiteral("ctrl+j")});
     QTest::qWait(200);

@@ -80,14 +80,21 @@ private Q_SLOTS:
     void comesBackInTheNewScale();
 
 private:
-    QString data(const QString& name) const
-    {
-        return m_home.filePath(QStringLiteral(".com.kivotrade.tradeclient/") + name);
-    }
-    QByteArray start() const { return contentOf(data(QStringLiteral("run/client.start"))); }
+    QString data(const QString& name) const;
+    QByteArray start() const;
 
     const QTemporaryDir m_home;
 };
+
+QString tst_RestartOnScreen::data(const QString& name) const
+{
+    return m_home.filePath(QStringLiteral(".com.kivotrade.tradeclient/") + name);
+}
+
+QByteArray tst_RestartOnScreen::start() const
+{
+    return contentOf(data(QStringLiteral("run/client.start")));
+}
 
 void tst_RestartOnScreen::comesBackInTheNewScale()
 {
@@ -131,7 +138,7 @@ void tst_RestartOnScreen::comesBackInTheNewScale()
     timer.start();
     while (windowsNamed(settingsTitle).isEmpty() && timer.elapsed() < patience) {
         press({QStringLiteral("ctrl+comma")});
-        QTest::qWait(300);
+        QTest::qWait(300); // for its answer, before the keys are sent again
     }
     QCOMPARE(windowsNamed(settingsTitle).size(), 1);
     const QByteArray dialog = windowsNamed(settingsTitle).first();
@@ -175,7 +182,7 @@ void tst_RestartOnScreen::comesBackInTheNewScale()
     while (!windowsNamed(mainTitle).isEmpty() && timer.elapsed() < patience) {
         activate(windowsNamed(mainTitle).first());
         press({QStringLiteral("ctrl+q")});
-        QTest::qWait(300);
+        QTest::qWait(300); // for its end, before the keys are sent again
     }
     const DataDirectory directory(data(QString()));
     Instance successor(directory);
