@@ -74,10 +74,6 @@ struct Session : TestDialog {
             const int values[] = {base, upper, lower, decrement};
             for (int field = 0; field < 4; ++field)
                 parm.*chosen.values[field] = values[field];
-            for (int item = 0; item < 3; ++item) {
-                parm.starBuyRiseChoices[item] = item + 1;
-                parm.starSellRiseChoices[item] = 10 * (item + 1);
-            }
         })
         , group(groups[groupIndex])
     {
@@ -146,60 +142,11 @@ struct Session : TestDialog {
     bool shown = false;
 };
 
-/// One of the two protection prices.
-struct Rise {
-    explicit Rise(bool sell)
-        : session(1, 3)
-        , combo(session.find<QComboBox>(sell ? "comboBox_trade_kc_sellRise"
-                                             : "comboBox_trade_kc_buyRise"))
-        , button(
-              session.find<QPushButton>(sell ? "pushButton_kc_sellRise" : "pushButton_kc_buyRise"))
-        , text(sell ? session->starSellRiseText : session->starBuyRiseText)
-        , otherText(sell ? session->starBuyRiseText : session->starSellRiseText)
-        , first(sell ? QStringLiteral("10") : QStringLiteral("1"))
-        , second(sell ? QStringLiteral("20") : QStringLiteral("2"))
-        , third(sell ? QStringLiteral("30") : QStringLiteral("3"))
-        , choices(sell ? session.trade.parm().starSellRiseChoices
-                       : session.trade.parm().starBuyRiseChoices)
-    {
-    }
-
-    void begin() const { QTest::mouseClick(&button, Qt::LeftButton); }
-    void leave() const { session.leaveField(); }
-
-    void type(const QString& percent) const
-    {
-        QTest::keyClick(&combo, Qt::Key_A, Qt::ControlModifier);
-        if (percent.isEmpty())
-            QTest::keyClick(&combo, Qt::Key_Delete);
-        else
-            QTest::keyClicks(&combo, percent);
-    }
-
-    QStringList items() const
-    {
-        QStringList texts;
-        for (int item = 0; item < combo.count(); ++item)
-            texts << combo.itemText(item);
-        return texts;
-    }
-
-    Session session;
-    QComboBox& combo;
-    QPushButton& button;
-    QString& text;
-    QString& otherText;
-    QString first;
-    QString second;
-    QString third;
-    std::int32_t (&choices)[3];
-};
-
 QString number(int value) { return QString::number(value); }
 
 } // namespace
 
-class tst_SplitSettings : public QObject {
+class tst_SplitGroup : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -243,7 +190,6 @@ private Q_SLOTS:
     void tipIsReused();
     void tipGoesAwayByItself();
     void leavingTheWindowChecksToo();
-    void riseChoicesAreNotCleared();
 
     void strategyRows_data();
     void strategyRows();
@@ -255,49 +201,20 @@ private Q_SLOTS:
     void enabling_data();
     void enabling();
 
-    void riseStates_data();
-    void riseStates();
-    void riseKeepsItsEntries_data();
-    void riseKeepsItsEntries();
-    void riseDoesNotComplete_data();
-    void riseDoesNotComplete();
-    void riseOfAnotherEntryStays_data();
-    void riseOfAnotherEntryStays();
-    void riseArrowsChooseAnother_data();
-    void riseArrowsChooseAnother();
-    void riseValidator_data();
-    void riseValidator();
-    void riseFocusOrder_data();
-    void riseFocusOrder();
-    void riseLeavingUnedited_data();
-    void riseLeavingUnedited();
-    void riseEmptyIsZero_data();
-    void riseEmptyIsZero();
-    void risePopupEndsTheEditing_data();
-    void risePopupEndsTheEditing();
-
     void confirmRefusesInKeyOrder();
 
 private:
     static void bothGroups();
-    static void bothPrices();
 };
 
-void tst_SplitSettings::bothGroups()
+void tst_SplitGroup::bothGroups()
 {
     QTest::addColumn<int>("group");
     QTest::newRow("stock") << 0;
     QTest::newRow("STAR") << 1;
 }
 
-void tst_SplitSettings::bothPrices()
-{
-    QTest::addColumn<bool>("sell");
-    QTest::newRow("buy") << false;
-    QTest::newRow("sell") << true;
-}
-
-void tst_SplitSettings::rules_data()
+void tst_SplitGroup::rules_data()
 {
     QTest::addColumn<int>("group");
     QTest::addColumn<int>("field");
@@ -353,7 +270,7 @@ void tst_SplitSettings::rules_data()
     }
 }
 
-void tst_SplitSettings::rules()
+void tst_SplitGroup::rules()
 {
     QFETCH(int, group);
     QFETCH(int, field);
@@ -386,7 +303,7 @@ void tst_SplitSettings::rules()
     QCOMPARE(session.rows(), tip == upperTooSmall ? QStringLiteral("ss") : before);
 }
 
-void tst_SplitSettings::upperLimitSeesHiddenCompanions_data()
+void tst_SplitGroup::upperLimitSeesHiddenCompanions_data()
 {
     QTest::addColumn<int>("group");
     QTest::addColumn<int>("lower");
@@ -398,7 +315,7 @@ void tst_SplitSettings::upperLimitSeesHiddenCompanions_data()
     }
 }
 
-void tst_SplitSettings::upperLimitSeesHiddenCompanions()
+void tst_SplitGroup::upperLimitSeesHiddenCompanions()
 {
     QFETCH(int, group);
     QFETCH(int, lower);
@@ -417,9 +334,9 @@ void tst_SplitSettings::upperLimitSeesHiddenCompanions()
     QCOMPARE(session.rows(), QStringLiteral("ss"));
 }
 
-void tst_SplitSettings::upperBelowMinimumRevealsNothing_data() { bothGroups(); }
+void tst_SplitGroup::upperBelowMinimumRevealsNothing_data() { bothGroups(); }
 
-void tst_SplitSettings::upperBelowMinimumRevealsNothing()
+void tst_SplitGroup::upperBelowMinimumRevealsNothing()
 {
     QFETCH(int, group);
     const Session session(group, 0);
@@ -428,9 +345,9 @@ void tst_SplitSettings::upperBelowMinimumRevealsNothing()
     QCOMPARE(session.rows(), QStringLiteral("--"));
 }
 
-void tst_SplitSettings::lowerLimitSeesHiddenUpper_data() { bothGroups(); }
+void tst_SplitGroup::lowerLimitSeesHiddenUpper_data() { bothGroups(); }
 
-void tst_SplitSettings::lowerLimitSeesHiddenUpper()
+void tst_SplitGroup::lowerLimitSeesHiddenUpper()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy, 1000, 300, 200, 200);
@@ -440,9 +357,9 @@ void tst_SplitSettings::lowerLimitSeesHiddenUpper()
     QVERIFY(session.edit(Upper).isHidden());
 }
 
-void tst_SplitSettings::validUpperClearsALowerLimitOf50_data() { bothGroups(); }
+void tst_SplitGroup::validUpperClearsALowerLimitOf50_data() { bothGroups(); }
 
-void tst_SplitSettings::validUpperClearsALowerLimitOf50()
+void tst_SplitGroup::validUpperClearsALowerLimitOf50()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -455,9 +372,9 @@ void tst_SplitSettings::validUpperClearsALowerLimitOf50()
     QCOMPARE(session.state(), QStringLiteral("-gr- -10-"));
 }
 
-void tst_SplitSettings::validUpperClearsBoth_data() { bothGroups(); }
+void tst_SplitGroup::validUpperClearsBoth_data() { bothGroups(); }
 
-void tst_SplitSettings::validUpperClearsBoth()
+void tst_SplitGroup::validUpperClearsBoth()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy, 1000, 300, 200, 200);
@@ -471,9 +388,9 @@ void tst_SplitSettings::validUpperClearsBoth()
     QCOMPARE(session.state(), QStringLiteral("-ggg -111"));
 }
 
-void tst_SplitSettings::validUpperGivesNoNewEntries_data() { bothGroups(); }
+void tst_SplitGroup::validUpperGivesNoNewEntries_data() { bothGroups(); }
 
-void tst_SplitSettings::validUpperGivesNoNewEntries()
+void tst_SplitGroup::validUpperGivesNoNewEntries()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -486,9 +403,9 @@ void tst_SplitSettings::validUpperGivesNoNewEntries()
     QCOMPARE(session.state(), QStringLiteral("-g-- -11-"));
 }
 
-void tst_SplitSettings::validLowerClearsTheUpper_data() { bothGroups(); }
+void tst_SplitGroup::validLowerClearsTheUpper_data() { bothGroups(); }
 
-void tst_SplitSettings::validLowerClearsTheUpper()
+void tst_SplitGroup::validLowerClearsTheUpper()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy, 1000, 300, 300, 200);
@@ -509,9 +426,9 @@ void tst_SplitSettings::validLowerClearsTheUpper()
     QCOMPARE(other.state(), QStringLiteral("-gg- -11-"));
 }
 
-void tst_SplitSettings::validDecrementClearsTheUpper_data() { bothGroups(); }
+void tst_SplitGroup::validDecrementClearsTheUpper_data() { bothGroups(); }
 
-void tst_SplitSettings::validDecrementClearsTheUpper()
+void tst_SplitGroup::validDecrementClearsTheUpper()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].decreasingStrategy, 1000, 300, 200, 300);
@@ -529,9 +446,9 @@ void tst_SplitSettings::validDecrementClearsTheUpper()
     QCOMPARE(other.state(), QStringLiteral("-g-g -1-1"));
 }
 
-void tst_SplitSettings::validBaseClearsNothing_data() { bothGroups(); }
+void tst_SplitGroup::validBaseClearsNothing_data() { bothGroups(); }
 
-void tst_SplitSettings::validBaseClearsNothing()
+void tst_SplitGroup::validBaseClearsNothing()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -541,9 +458,9 @@ void tst_SplitSettings::validBaseClearsNothing()
     QCOMPARE(session.state(), QStringLiteral("grr- 100-"));
 }
 
-void tst_SplitSettings::failingClearsNothing_data() { bothGroups(); }
+void tst_SplitGroup::failingClearsNothing_data() { bothGroups(); }
 
-void tst_SplitSettings::failingClearsNothing()
+void tst_SplitGroup::failingClearsNothing()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -554,9 +471,9 @@ void tst_SplitSettings::failingClearsNothing()
     QCOMPARE(session.state(), QStringLiteral("rrr- 000-"));
 }
 
-void tst_SplitSettings::groupsStandApart_data() { bothGroups(); }
+void tst_SplitGroup::groupsStandApart_data() { bothGroups(); }
 
-void tst_SplitSettings::groupsStandApart()
+void tst_SplitGroup::groupsStandApart()
 {
     QFETCH(int, group);
     const Session session(group, 0);
@@ -571,7 +488,7 @@ void tst_SplitSettings::groupsStandApart()
     QCOMPARE(session.find(groups[1 - group].lowerLabel).isHidden(), true);
 }
 
-void tst_SplitSettings::unknownNameClearsNothing()
+void tst_SplitGroup::unknownNameClearsNothing()
 {
     const Session session(0);
     for (const Group& group : groups) {
@@ -586,9 +503,9 @@ void tst_SplitSettings::unknownNameClearsNothing()
     QCOMPARE(session->inputValidity, before);
 }
 
-void tst_SplitSettings::nothingWhileTyping_data() { bothGroups(); }
+void tst_SplitGroup::nothingWhileTyping_data() { bothGroups(); }
 
-void tst_SplitSettings::nothingWhileTyping()
+void tst_SplitGroup::nothingWhileTyping()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -609,9 +526,9 @@ void tst_SplitSettings::nothingWhileTyping()
     QVERIFY(!session->inputValidity.contains(session.key(Lower)));
 }
 
-void tst_SplitSettings::unvisitedFieldsHaveNoEntry_data() { bothGroups(); }
+void tst_SplitGroup::unvisitedFieldsHaveNoEntry_data() { bothGroups(); }
 
-void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
+void tst_SplitGroup::unvisitedFieldsHaveNoEntry()
 {
     QFETCH(int, group);
     Session session(group, 0, 1, 1, 1, 1);
@@ -622,7 +539,7 @@ void tst_SplitSettings::unvisitedFieldsHaveNoEntry()
     QCOMPARE(session.trade.parm().*session.group.values[Upper], 1);
 }
 
-void tst_SplitSettings::otherFieldsAreNotChecked()
+void tst_SplitGroup::otherFieldsAreNotChecked()
 {
     const Session session(0);
     session->SetCurrentIndex(0);
@@ -642,7 +559,7 @@ void tst_SplitSettings::otherFieldsAreNotChecked()
     QVERIFY(session->inputValidity.isEmpty());
 }
 
-void tst_SplitSettings::noEventIsConsumed()
+void tst_SplitGroup::noEventIsConsumed()
 {
     const Session session(1, 3);
     const auto types = {
@@ -669,7 +586,7 @@ void tst_SplitSettings::noEventIsConsumed()
     }
 }
 
-void tst_SplitSettings::tipPlace_data()
+void tst_SplitGroup::tipPlace_data()
 {
     QTest::addColumn<int>("group");
     QTest::addColumn<int>("field");
@@ -686,7 +603,7 @@ void tst_SplitSettings::tipPlace_data()
     }
 }
 
-void tst_SplitSettings::tipPlace()
+void tst_SplitGroup::tipPlace()
 {
     QFETCH(int, group);
     QFETCH(int, field);
@@ -708,7 +625,7 @@ void tst_SplitSettings::tipPlace()
     QCOMPARE(session->childAt(middle), &session.tip());
 }
 
-void tst_SplitSettings::tipForNoWidget()
+void tst_SplitGroup::tipForNoWidget()
 {
     const Session session(0);
     QObject stranger;
@@ -724,9 +641,9 @@ void tst_SplitSettings::tipForNoWidget()
     QVERIFY(session.tip().isVisible());
 }
 
-void tst_SplitSettings::tipIsReused_data() { bothGroups(); }
+void tst_SplitGroup::tipIsReused_data() { bothGroups(); }
 
-void tst_SplitSettings::tipIsReused()
+void tst_SplitGroup::tipIsReused()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -741,7 +658,7 @@ void tst_SplitSettings::tipIsReused()
     QVERIFY(tip->isVisible());
 }
 
-void tst_SplitSettings::tipGoesAwayByItself()
+void tst_SplitGroup::tipGoesAwayByItself()
 {
     const Session session(0, 2);
     QVERIFY(session.shown);
@@ -754,7 +671,7 @@ void tst_SplitSettings::tipGoesAwayByItself()
     QTRY_VERIFY(!session.tip().isVisible());
 }
 
-void tst_SplitSettings::leavingTheWindowChecksToo()
+void tst_SplitGroup::leavingTheWindowChecksToo()
 {
     const Session session(0, 2);
     QVERIFY(session.shown);
@@ -769,17 +686,7 @@ void tst_SplitSettings::leavingTheWindowChecksToo()
     }
 }
 
-void tst_SplitSettings::riseChoicesAreNotCleared()
-{
-    const Rise buy(false);
-    const Rise sell(true);
-    buy.session->ReadAllParm();
-    sell.session->ReadAllParm();
-    QCOMPARE(buy.items().join(QLatin1Char(' ')), QStringLiteral("1 2 3 1 2 3"));
-    QCOMPARE(sell.items().join(QLatin1Char(' ')), QStringLiteral("10 20 30 10 20 30"));
-}
-
-void tst_SplitSettings::strategyRows_data()
+void tst_SplitGroup::strategyRows_data()
 {
     QTest::addColumn<int>("group");
     QTest::addColumn<int>("index");
@@ -804,7 +711,7 @@ void tst_SplitSettings::strategyRows_data()
     row(1, 100, "-- --");
 }
 
-void tst_SplitSettings::strategyRows()
+void tst_SplitGroup::strategyRows()
 {
     QFETCH(int, group);
     QFETCH(int, index);
@@ -832,7 +739,7 @@ void tst_SplitSettings::strategyRows()
     QVERIFY(session->inputValidity.isEmpty());
 }
 
-void tst_SplitSettings::presets_data()
+void tst_SplitGroup::presets_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("upper");
@@ -841,7 +748,7 @@ void tst_SplitSettings::presets_data()
     QTest::newRow("after-hours fixed price") << 2 << "100000";
 }
 
-void tst_SplitSettings::presets()
+void tst_SplitGroup::presets()
 {
     QFETCH(int, index);
     const Session session(1, 3);
@@ -858,7 +765,7 @@ void tst_SplitSettings::presets()
     QTEST(session.edit(Upper).text(), "upper");
 }
 
-void tst_SplitSettings::presetsKeepMarks()
+void tst_SplitGroup::presetsKeepMarks()
 {
     const Session session(1, 3);
     session.enter(Base, QStringLiteral("1"));
@@ -882,7 +789,7 @@ void tst_SplitSettings::presetsKeepMarks()
     QCOMPARE(session.trade.saves, 1);
 }
 
-void tst_SplitSettings::presetsWhileLoading_data()
+void tst_SplitGroup::presetsWhileLoading_data()
 {
     QTest::addColumn<int>("strategy");
     QTest::addColumn<QString>("base");
@@ -893,7 +800,7 @@ void tst_SplitSettings::presetsWhileLoading_data()
     QTest::newRow("4") << 4 << "1234";
 }
 
-void tst_SplitSettings::presetsWhileLoading()
+void tst_SplitGroup::presetsWhileLoading()
 {
     QFETCH(int, strategy);
     Session session(1, strategy, 1234, 4321, 77, 88);
@@ -909,9 +816,9 @@ void tst_SplitSettings::presetsWhileLoading()
     QCOMPARE(stock.edit(Base).text(), QStringLiteral("1234"));
 }
 
-void tst_SplitSettings::enabling_data() { bothGroups(); }
+void tst_SplitGroup::enabling_data() { bothGroups(); }
 
-void tst_SplitSettings::enabling()
+void tst_SplitGroup::enabling()
 {
     QFETCH(int, group);
     const Session session(group, groups[group].randomStrategy);
@@ -943,242 +850,7 @@ void tst_SplitSettings::enabling()
     QVERIFY(!session.find(other.strategy).isEnabled());
 }
 
-void tst_SplitSettings::riseStates_data() { bothPrices(); }
-
-void tst_SplitSettings::riseStates()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    QVERIFY(!rise.combo.isEditable());
-    QVERIFY(rise.button.isEnabled());
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
-
-    rise.combo.setCurrentIndex(1);
-    rise.begin();
-    QVERIFY(rise.combo.isEditable());
-    QVERIFY(!rise.button.isEnabled());
-    QVERIFY(rise.combo.hasFocus());
-    QCOMPARE(rise.text, rise.second);
-    QCOMPARE(rise.otherText, QString());
-
-    rise.type(QStringLiteral("47"));
-    QCOMPARE(rise.text, QStringLiteral("47"));
-    QCOMPARE(rise.otherText, QString());
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
-
-    rise.leave();
-    QVERIFY(!rise.combo.isEditable());
-    QVERIFY(rise.button.isEnabled());
-    QCOMPARE(rise.items(), QStringList({rise.first, QStringLiteral("47"), rise.third}));
-    QCOMPARE(rise.combo.currentIndex(), 1);
-    QVERIFY(rise.session->inputValidity.isEmpty());
-
-    rise.session->WriteAllParm();
-    QCOMPARE(rise.choices[0], rise.first.toInt());
-    QCOMPARE(rise.choices[1], 47);
-    QCOMPARE(rise.choices[2], rise.third.toInt());
-}
-
-void tst_SplitSettings::riseKeepsItsEntries_data()
-{
-    QTest::addColumn<bool>("sell");
-    QTest::addColumn<QList<int>>("keys");
-    for (const bool sell : {false, true}) {
-        const char* const name = sell ? "sell" : "buy";
-        QTest::addRow("%s Return", name) << sell << QList<int>{Qt::Key_Return};
-        QTest::addRow("%s Enter", name) << sell << QList<int>{Qt::Key_Enter};
-        QTest::addRow("%s Return twice", name)
-            << sell << QList<int>{Qt::Key_Return, Qt::Key_Return};
-        QTest::addRow("%s Escape", name) << sell << QList<int>{Qt::Key_Escape};
-        QTest::addRow("%s Home, End", name) << sell << QList<int>{Qt::Key_Home, Qt::Key_End};
-        QTest::addRow("%s Left, Right", name) << sell << QList<int>{Qt::Key_Left, Qt::Key_Right};
-        QTest::addRow("%s letters", name) << sell << QList<int>{Qt::Key_X, Qt::Key_Minus};
-    }
-}
-
-void tst_SplitSettings::riseKeepsItsEntries()
-{
-    QFETCH(bool, sell);
-    QFETCH(QList<int>, keys);
-    const Rise rise(sell);
-    rise.begin();
-    rise.type(QStringLiteral("47"));
-    for (const int key : qAsConst(keys))
-        QTest::keyClick(&rise.combo, Qt::Key(key));
-    QCOMPARE(rise.combo.count(), 3);
-    QCOMPARE(rise.text, QStringLiteral("47"));
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({QStringLiteral("47"), rise.second, rise.third}));
-    QCOMPARE(rise.combo.currentIndex(), 0);
-}
-
-void tst_SplitSettings::riseDoesNotComplete_data() { bothPrices(); }
-
-void tst_SplitSettings::riseDoesNotComplete()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    rise.combo.setItemText(1, QStringLiteral("88"));
-    rise.begin();
-    QTest::keyClick(&rise.combo, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&rise.combo, Qt::Key_8);
-    QCOMPARE(rise.combo.currentText(), QStringLiteral("8"));
-    QCOMPARE(rise.text, QStringLiteral("8"));
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({QStringLiteral("8"), QStringLiteral("88"), rise.third}));
-}
-
-void tst_SplitSettings::riseOfAnotherEntryStays_data() { bothPrices(); }
-
-void tst_SplitSettings::riseOfAnotherEntryStays()
-{
-    QFETCH(bool, sell);
-    // A percentage that another entry has too goes to the entry that is edited, with Return or
-    // without.
-    for (const bool withReturn : {false, true}) {
-        const Rise rise(sell);
-        rise.begin();
-        rise.type(rise.second);
-        if (withReturn)
-            QTest::keyClick(&rise.combo, Qt::Key_Return);
-        rise.leave();
-        QCOMPARE(rise.items(), QStringList({rise.second, rise.second, rise.third}));
-        QCOMPARE(rise.combo.currentIndex(), 0);
-    }
-}
-
-void tst_SplitSettings::riseArrowsChooseAnother_data() { bothPrices(); }
-
-void tst_SplitSettings::riseArrowsChooseAnother()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    rise.begin();
-    QTest::keyClick(&rise.combo, Qt::Key_Down);
-    QCOMPARE(rise.combo.currentIndex(), 1);
-    QCOMPARE(rise.text, rise.second);
-    for (int press = 0; press < 3; ++press)
-        QTest::keyClick(&rise.combo, Qt::Key_Down);
-    QCOMPARE(rise.combo.currentIndex(), 2);
-    QCOMPARE(rise.text, rise.third);
-    for (int press = 0; press < 3; ++press)
-        QTest::keyClick(&rise.combo, Qt::Key_Up);
-    QCOMPARE(rise.combo.currentIndex(), 0);
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
-}
-
-void tst_SplitSettings::riseValidator_data() { bothPrices(); }
-
-void tst_SplitSettings::riseValidator()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    rise.begin();
-    const auto* const validator = qobject_cast<const QIntValidator*>(rise.combo.validator());
-    QVERIFY(validator);
-    QCOMPARE(validator->bottom(), 0);
-    QCOMPARE(validator->top(), 100);
-    QCOMPARE(validator->parent(), rise.session.get());
-
-    rise.type(QStringLiteral("101"));
-    QCOMPARE(rise.text, QStringLiteral("10"));
-    rise.type(QStringLiteral("100"));
-    QCOMPARE(rise.text, QStringLiteral("100"));
-    rise.type(QStringLiteral("-5"));
-    QCOMPARE(rise.text, QStringLiteral("5"));
-    rise.type(QStringLiteral("0"));
-    QCOMPARE(rise.text, QStringLiteral("0"));
-    rise.leave();
-
-    rise.begin();
-    const auto* const next = qobject_cast<const QIntValidator*>(rise.combo.validator());
-    QVERIFY(next);
-    QVERIFY(next != validator);
-    QCOMPARE(next->parent(), rise.session.get());
-}
-
-void tst_SplitSettings::riseFocusOrder_data() { bothPrices(); }
-
-void tst_SplitSettings::riseFocusOrder()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    // Both ways to the button: a disabled button hands the focus on, and a field that only
-    // passes it along would be checked.
-    rise.begin();
-    QVERIFY(rise.combo.hasFocus());
-    QVERIFY(rise.session->inputValidity.isEmpty());
-    rise.leave();
-    rise.button.setFocus();
-    QList<QWidget*> visited;
-    const auto connection = connect(qApp, &QApplication::focusChanged,
-                                    [&visited](QWidget*, QWidget* now) { visited << now; });
-    QTest::keyClick(&rise.button, Qt::Key_Space);
-    disconnect(connection);
-    QCOMPARE(visited, QList<QWidget*>{&rise.combo});
-    QVERIFY(rise.combo.isEditable());
-    QVERIFY(rise.combo.hasFocus());
-    QVERIFY(rise.session->inputValidity.isEmpty());
-    QVERIFY(rise.session.tip().isHidden());
-    // The other price did not enter its editing state.
-    QVERIFY(
-        rise.session.find(sell ? "pushButton_kc_buyRise" : "pushButton_kc_sellRise").isEnabled());
-}
-
-void tst_SplitSettings::riseLeavingUnedited_data() { bothPrices(); }
-
-void tst_SplitSettings::riseLeavingUnedited()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    rise.text = QStringLiteral("stale");
-    rise.combo.setFocus();
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
-    QVERIFY(rise.button.isEnabled());
-    // And leaving at once stores what was there.
-    rise.begin();
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, rise.third}));
-}
-
-void tst_SplitSettings::riseEmptyIsZero_data() { bothPrices(); }
-
-void tst_SplitSettings::riseEmptyIsZero()
-{
-    QFETCH(bool, sell);
-    Rise rise(sell);
-    rise.combo.setCurrentIndex(2);
-    rise.begin();
-    rise.type(QString());
-    QCOMPARE(rise.text, QString());
-    rise.leave();
-    QCOMPARE(rise.items(), QStringList({rise.first, rise.second, QString()}));
-    rise.session->WriteAllParm();
-    QCOMPARE(rise.session.trade.saves, 1);
-    QCOMPARE(rise.choices[2], 0);
-}
-
-void tst_SplitSettings::risePopupEndsTheEditing_data() { bothPrices(); }
-
-void tst_SplitSettings::risePopupEndsTheEditing()
-{
-    QFETCH(bool, sell);
-    const Rise rise(sell);
-    rise.begin();
-    rise.type(QStringLiteral("47"));
-    rise.combo.showPopup();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-    rise.combo.hidePopup();
-    rise.leave();
-    QVERIFY(!rise.combo.isEditable());
-    QVERIFY(rise.button.isEnabled());
-    QCOMPARE(rise.items(), QStringList({QStringLiteral("47"), rise.second, rise.third}));
-}
-
-void tst_SplitSettings::confirmRefusesInKeyOrder()
+void tst_SplitGroup::confirmRefusesInKeyOrder()
 {
     Session session(0);
     session.enter(Upper, QStringLiteral("99"));
@@ -1208,5 +880,5 @@ void tst_SplitSettings::confirmRefusesInKeyOrder()
     QVERIFY(!session->isVisible());
 }
 
-TRADECONFIG_TEST_MAIN(tst_SplitSettings)
-#include "tst_SplitSettings.moc"
+TRADECONFIG_TEST_MAIN(tst_SplitGroup)
+#include "tst_SplitGroup.moc"
