@@ -6,6 +6,19 @@
 
 namespace {
 
+struct TipParent {
+    QWidget tipParent;
+};
+
+class ShownTip : TipParent, public CTipLabel {
+public:
+    ShownTip()
+        : CTipLabel(QStringLiteral("a"), true, &tipParent)
+    {
+        tipParent.show();
+    }
+};
+
 QList<QPropertyAnimation*> fades(const CTipLabel& label)
 {
     return label.findChildren<QPropertyAnimation*>(QString(), Qt::FindDirectChildrenOnly);
@@ -125,9 +138,7 @@ void tst_TipLabel::opacityOverTime()
     QFETCH(int, milliseconds);
     QFETCH(double, expected);
 
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     label.SetAutoHide();
     fades(label).constFirst()->setCurrentTime(milliseconds);
     QVERIFY(qAbs(opacity(label) - expected) < 1e-9);
@@ -136,9 +147,7 @@ void tst_TipLabel::opacityOverTime()
 
 void tst_TipLabel::hidesAndCleansUpAtTheEnd()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     QVERIFY(label.isVisible());
     label.SetAutoHide();
     const QPointer<QPropertyAnimation> fade = fades(label).constFirst();
@@ -153,9 +162,7 @@ void tst_TipLabel::hidesAndCleansUpAtTheEnd()
 
 void tst_TipLabel::runsByItselfToTheEnd()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     label.SetAutoHide();
     const QPointer<QPropertyAnimation> fade = fades(label).constFirst();
     fade->setCurrentTime(2450);
@@ -165,9 +172,7 @@ void tst_TipLabel::runsByItselfToTheEnd()
 
 void tst_TipLabel::secondFadeRulesTheOpacity()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     label.SetAutoHide();
     const QPointer<QGraphicsEffect> firstEffect = label.graphicsEffect();
     QPropertyAnimation* const first = fades(label).constFirst();
@@ -192,9 +197,7 @@ void tst_TipLabel::secondFadeRulesTheOpacity()
 
 void tst_TipLabel::firstFadeStillHides()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     label.SetAutoHide();
     const QPointer<QPropertyAnimation> first = fades(label).constFirst();
     first->setCurrentTime(2000);
@@ -223,9 +226,7 @@ void tst_TipLabel::firstFadeStillHides()
 void tst_TipLabel::everyEarlierFadeStillHides()
 {
     // Later effects often stand at the address of earlier ones; that must not stop a fade.
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     for (int count = 0; count < 20; ++count) {
         label.SetAutoHide();
         label.SetAutoHide();
@@ -248,9 +249,7 @@ void tst_TipLabel::everyEarlierFadeStillHides()
 
 void tst_TipLabel::shownAgainAfterAFade()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     label.SetAutoHide();
     fades(label).constFirst()->setCurrentTime(2500);
     label.SetMessageLabel(QStringLiteral("b"));
@@ -283,9 +282,7 @@ void tst_TipLabel::labelMayDieDuringTheFade()
 
 void tst_TipLabel::thousandFadesLeaveNothing()
 {
-    QWidget parent;
-    CTipLabel label(QStringLiteral("a"), true, &parent);
-    parent.show();
+    ShownTip label;
     const int childrenBefore = label.children().size();
     for (int count = 0; count < 1000; ++count) {
         label.SetAutoHide();

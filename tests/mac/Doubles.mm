@@ -1,4 +1,4 @@
-#include "Doubles.h"
+#include "mac/Doubles.h"
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOKitLib.h>

@@ -1,7 +1,8 @@
 // machost <case>: runs one case in this process, since the module keeps its answers for the life
 // of a process. CMakeLists.txt makes one test of every line that begins with CASE.
 
-#include "Doubles.h"
+#include "mac/Doubles.h"
+#include "support/VersionTable.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <cstdio>
@@ -452,43 +453,14 @@ CASE(versionMissing)
 
 CASE(versionNumbers)
 {
-    const struct {
-        const char* text;
-        int number;
-    } rows[] = {
-        {"10.2.3", 10020003},
-        {"10", 0},
-        {"10.2", 10000000},
-        {"3.5", 3000000},
-        {"1.2.3.4", 1020003},
-        {"1.0.2.1", 1000002},
-        {"", 0},
-        {".", 0},
-        {"..", 0},
-        {"..7", 7},
-        {".3.", 30000},
-        {"0.0.0", 0},
-        {"7.", 7000000},
-        {"1.2.", 1020000},
-        {"x.2.3", 20003},
-        {"2x.3y.4z", 2030004},
-        {"v1.2.3", 20003},
-        {"1.100.20000", 2020000},
-        {"-1.2.3", -979997},
-        // In 64 bits, then the low 32 of them.
-        {"2147.48.3647", 2147483647},
-        {"2147.48.3648", -2147483647 - 1},
-        {"5000.1.1", 705042705},
-        {"2147483647.0.0", -1000000},
-    };
-    for (const auto& row : rows) {
+    for (const VersionNumber& row : versionTable) {
         script().version = string(row.text);
         same<std::string>(__LINE__, row.text, std::to_string(GetMainExecutableVersionNum()),
                           std::to_string(row.number));
     }
     SAME_TEXT(Doubles::trace().back(), "objectForInfoDictionaryKey CFBundleShortVersionString");
     SAME_NUMBER(static_cast<long long>(Doubles::trace().size()),
-                static_cast<long long>(sizeof rows / sizeof *rows));
+                static_cast<long long>(sizeof versionTable / sizeof *versionTable));
 }
 
 CASE(versionNumberLeavesNothingInThePool)

@@ -99,6 +99,14 @@ struct Opened : TestDialog {
     }
 };
 
+// Runs an event loop, which the restart is to end; 99 if it does not.
+int exitCodeOfConfirming(const TestDialog& dialog)
+{
+    QTimer::singleShot(0, dialog.get(), [&dialog] { dialog.confirm(); });
+    QTimer::singleShot(20000, dialog.get(), [] { QCoreApplication::exit(99); });
+    return QCoreApplication::exec();
+}
+
 QString settingsFile() { return QDir::homePath() + QStringLiteral("/.com.kivotrade.tradeclient"); }
 
 QStringList pageNames(const CNavWidget& list) { return list.items; }
@@ -922,9 +930,7 @@ void tst_CTradeConfigWidget::yesToTheRestartSavesAndQuits()
     opened->ui.spinBox_scale->setValue(145);
     opened->ui.comboBox_trade_buyPrice->setCurrentIndex(4);
     const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("是"));
-    QTimer::singleShot(0, opened->ui.pushButton_confirm, [&] { opened.confirm(); });
-    QTimer::singleShot(20000, opened.get(), [] { QCoreApplication::exit(99); });
-    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(exitCodeOfConfirming(opened), 0);
     QCOMPARE(opened.trade.saves, 1);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 4);
     QVERIFY(!opened->isVisible());
@@ -940,9 +946,7 @@ void tst_CTradeConfigWidget::yesToTheRestartOfAnInvalidInputWritesNothing()
     opened->inputValidity.insert(QStringLiteral("lineEdit_trade_low"), false);
     const int gets = opened.trade.gets;
     const ModalAnswer restart = ModalAnswer::clicking(QStringLiteral("是"));
-    QTimer::singleShot(0, opened->ui.pushButton_confirm, [&] { opened.confirm(); });
-    QTimer::singleShot(20000, opened.get(), [] { QCoreApplication::exit(99); });
-    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(exitCodeOfConfirming(opened), 0);
     QCOMPARE(opened.trade.saves, 0);
     QCOMPARE(opened.trade.gets, gets);
     QCOMPARE(opened.trade.parm().defaultBuyPrice, 0);

@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/TestMain.h"
+#include "support/VersionTable.h"
 #include "tradeConfig/platform/HostPlatform.h"
 #include "tradeConfig/platform/HostPlatform_unix.h"
 
@@ -383,37 +384,7 @@ void tst_HostPlatformUnix::versionText()
 void tst_HostPlatformUnix::versionNumber_data()
 {
     QTest::addColumn<int>("number");
-    const struct {
-        const char* text;
-        int number;
-    } rows[] = {
-        {"10.2.3", 10020003},
-        {"10", 0},
-        {"10.2", 10000000},
-        {"3.5", 3000000},
-        {"1.2.3.4", 1020003},
-        {"1.0.2.1", 1000002},
-        {"", 0},
-        {".", 0},
-        {"..", 0},
-        {"..7", 7},
-        {".3.", 30000},
-        {"0.0.0", 0},
-        {"7.", 7000000},
-        {"1.2.", 1020000},
-        {"x.2.3", 20003},
-        {"2x.3y.4z", 2030004},
-        {"1.100.20000", 2020000},
-        {"-1.2.3", -979997},
-        {" 1. 2. 3", 1020003},
-        // In 64 bits, then the low 32 of them.
-        {"2147.48.3647", INT_MAX},
-        {"2147.48.3648", INT_MIN},
-        {"5000.1.1", 705042705},
-        {"2147483647.0.0", -1000000},
-        {"99999999999999999999.0.0", -1000000},
-    };
-    for (const auto& row : rows)
+    for (const VersionNumber& row : versionTable)
         QTest::newRow(row.text) << row.number;
 }
 

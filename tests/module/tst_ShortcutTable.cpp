@@ -32,6 +32,7 @@ struct Side {
         : credit(isCredit)
         , table(dialog.find<QTableWidget>(isCredit ? "tableWidget_credit" : "tableWidget_shortcut"))
         , texts(isCredit ? dialog->creditShortcutTexts : dialog->stockShortcutTexts)
+        , modifier(isCredit ? Qt::AltModifier : Qt::ControlModifier)
         , key(isCredit ? QStringLiteral("creditShortcut") : QStringLiteral("stcokShortcut"))
         , otherKey(isCredit ? QStringLiteral("stcokShortcut") : QStringLiteral("creditShortcut"))
     {
@@ -45,6 +46,15 @@ struct Side {
     void capture(int row, Qt::Key pressed, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(&editor(row), pressed, modifiers);
+    }
+
+    /// Calls the slot of the dialog that the editors are connected to.
+    void finish(int row, const QString& text) const
+    {
+        if (credit)
+            dialog->CellEditFinished2(row, text);
+        else
+            dialog->CellEditFinished(row, text);
     }
 
     QString status(int row) const { return table.item(row, 2)->text(); }
@@ -67,6 +77,7 @@ struct Side {
     bool credit;
     QTableWidget& table;
     QStringList& texts;
+    Qt::KeyboardModifier modifier; ///< that of all its keys in the record
     QString key;
     QString otherKey;
 };
@@ -408,7 +419,7 @@ void tst_ShortcutTable::duplicateIsRefused()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_A, side.modifier);
     QCOMPARE(side.editor(4).styleSheet(), red);
     QCOMPARE(side.status(4), QStringLiteral("与买入股票重复"));
     QCOMPARE(side.statusBrush(4), QBrush(QColor(255, 0, 0)));
@@ -448,7 +459,7 @@ void tst_ShortcutTable::duplicateStaysStored()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_A, side.modifier);
     QCOMPARE(side.texts.at(4), credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A"));
     QCOMPARE(side.editor(4).text(), side.texts.at(4));
 }
@@ -459,10 +470,10 @@ void tst_ShortcutTable::correctionEnablesAllAgain()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_A, side.modifier);
     QCOMPARE(side.enabledRows(), QList<int>{4});
     // Another duplicate keeps the error and names the other row.
-    side.capture(4, Qt::Key_B, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_B, side.modifier);
     QCOMPARE(side.status(4), QStringLiteral("与卖出股票重复"));
     QCOMPARE(side.enabledRows(), QList<int>{4});
     side.capture(4, Qt::Key_Y, Qt::ControlModifier);
@@ -515,7 +526,7 @@ void tst_ShortcutTable::emptyTextKeepsAnError()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_A, side.modifier);
     Q_EMIT side.editor(4).signal_editFinished(4, QString());
     QCOMPARE(side.editor(4).text(), QStringLiteral("空"));
     QCOMPARE(side.editor(4).styleSheet(), red);
@@ -544,7 +555,7 @@ void tst_ShortcutTable::confirmRefusesAnError()
     QFETCH(bool, credit);
     const Side side(credit);
     side.dialog->show();
-    side.capture(4, Qt::Key_A, credit ? Qt::AltModifier : Qt::ControlModifier);
+    side.capture(4, Qt::Key_A, side.modifier);
     {
         const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
         side.dialog.confirm();
@@ -705,10 +716,7 @@ void tst_ShortcutTable::slotMarksItsRow()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    if (credit)
-        side.dialog->CellEditFinished2(5, QStringLiteral("Ctrl+7"));
-    else
-        side.dialog->CellEditFinished(5, QStringLiteral("Ctrl+7"));
+    side.finish(5, QStringLiteral("Ctrl+7"));
     QCOMPARE(side.editor(5).styleSheet(), green);
     QVERIFY(side.entry());
 }
@@ -846,10 +854,7 @@ void tst_ShortcutTable::rowsOutsideTheTable()
     const Side side(credit);
     const QStringList before = side.texts;
     for (const int row : {-1, 13, 1000000}) {
-        if (credit)
-            side.dialog->CellEditFinished2(row, QStringLiteral("F5"));
-        else
-            side.dialog->CellEditFinished(row, QStringLiteral("F5"));
+        side.finish(row, QStringLiteral("F5"));
         QCOMPARE(side.texts, before);
         QVERIFY(!side.hasEntry());
         QCOMPARE(side.enabledRows(), allRows());
@@ -887,18 +892,12 @@ void tst_ShortcutTable::missingPartsAreLeftOut()
     delete side.table.takeItem(4, 2);
     delete side.table.takeItem(0, 0);
     side.table.removeCellWidget(4, 1);
-    const auto captured = [&side, credit](const QString& text) {
-        if (credit)
-            side.dialog->CellEditFinished2(4, text);
-        else
-            side.dialog->CellEditFinished(4, text);
-    };
-    captured(side.texts.at(0));
+    side.finish(4, side.texts.at(0));
     QVERIFY(side.hasEntry());
     QVERIFY(!side.entry());
-    captured(QString());
+    side.finish(4, QString());
     QVERIFY(!side.entry());
-    captured(QStringLiteral("F7"));
+    side.finish(4, QStringLiteral("F7"));
     QVERIFY(side.entry());
     QCOMPARE(side.texts.at(4), QStringLiteral("F7"));
 

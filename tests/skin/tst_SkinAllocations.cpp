@@ -1,4 +1,5 @@
 #include "libskin/SkinLibrary.h"
+#include "support/TemporarySkin.h"
 #include "support/TestMain.h"
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
@@ -117,11 +118,7 @@ void tst_SkinAllocations::texts()
     QPainter painter(&m_device);
     const QString text = QStringLiteral("系统设置");
     const QRectF rect(0, 0, 200, 60);
-    QFont font;
-    font.setFamilies({QStringLiteral("PingFang SC"), QStringLiteral("PingFang TC"),
-                      QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC"),
-                      QStringLiteral("Source Han Sans SC"), QStringLiteral("sans-serif")});
-    font.setPixelSize(13);
+    const QFont font = shippedFont();
     const QPen pen(Qt::red);
     const int bare = allocationsOf([&] {
         const QFont old = painter.font();

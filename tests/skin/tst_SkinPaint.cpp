@@ -359,11 +359,7 @@ void tst_SkinPaint::drawTextMatchesPainter()
     QFETCH(const int, flags);
     QFETCH(const QString, text);
     const QRectF rect(10, 10, 60, 40);
-    QFont font;
-    font.setFamilies({QStringLiteral("PingFang SC"), QStringLiteral("PingFang TC"),
-                      QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC"),
-                      QStringLiteral("Source Han Sans SC"), QStringLiteral("sans-serif")});
-    font.setPixelSize(13);
+    QFont font = shippedFont();
     font.setWeight(QFont::DemiBold);
     const QImage expected = painted(canvas(80, 60), [&](QPainter& painter) {
         painter.setFont(font);

@@ -23,6 +23,16 @@ QJsonObject shippedSkinTable(const QString& name)
     return QJsonDocument::fromJson(table).object();
 }
 
+QFont shippedFont()
+{
+    QFont font;
+    font.setFamilies({QStringLiteral("PingFang SC"), QStringLiteral("PingFang TC"),
+                      QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC"),
+                      QStringLiteral("Source Han Sans SC"), QStringLiteral("sans-serif")});
+    font.setPixelSize(13);
+    return font;
+}
+
 TemporarySkin::TemporarySkin()
     : m_table(shippedSkinTable(QStringLiteral("light")))
 {

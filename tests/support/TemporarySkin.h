@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QImage>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -28,3 +29,6 @@ private:
 
 /// The table of a shipped skin as it stands in the source tree.
 QJsonObject shippedSkinTable(const QString& name);
+
+/// The font of both shipped skins; of normal weight, which not all of its keys have.
+QFont shippedFont();

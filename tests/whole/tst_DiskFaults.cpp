@@ -71,6 +71,35 @@ extern "C" __attribute__((visibility("default"))) int renameat2(int fromDirector
     return int(syscall(SYS_renameat2, fromDirectory, from, toDirectory, to, flags));
 }
 
+namespace {
+
+/// A record that was stored while the disk was well, and has changed since.
+struct ChangedRecord {
+    explicit ChangedRecord(const QString& home)
+        : directory(home)
+        , store(directory)
+    {
+        if (!store.save(record).isEmpty())
+            QTest::qFail("the record could not be stored at all", __FILE__, __LINE__);
+        before = contentOf(store.fileName());
+        record.get().lockMinutes = 31;
+    }
+
+    QString save() { return store.save(record); }
+    QByteArray stored() const { return contentOf(store.fileName()); }
+    int files() const
+    {
+        return QDir(directory.configDirectory()).entryList(QDir::Files | QDir::Hidden).size();
+    }
+
+    const DataDirectory directory;
+    RecordStore store;
+    OwnedRecord record;
+    QByteArray before;
+};
+
+} // namespace
+
 /// Disks that are full or refuse to be written, while the record and the settings are stored.
 class tst_DiskFaults : public QObject {
     Q_OBJECT
@@ -119,28 +148,23 @@ void tst_DiskFaults::cleanup()
 
 void tst_DiskFaults::recordOnADiskThatFillsUp()
 {
-    const DataDirectory directory(m_home);
-    RecordStore store(directory);
-    OwnedRecord record;
-    QCOMPARE(store.save(record), QString());
-    const QByteArray before = contentOf(store.fileName());
+    ChangedRecord record(m_home);
     const QByteArray changed
-        = QByteArray(before).replace("\"lockMinutes\": 30", "\"lockMinutes\": 31");
-    QVERIFY(changed != before);
-    QVERIFY(before.size() > 600);
+        = QByteArray(record.before).replace("\"lockMinutes\": 30", "\"lockMinutes\": 31");
+    QVERIFY(changed != record.before);
+    QVERIFY(record.before.size() > 600);
 
-    record.get().lockMinutes = 31;
-    for (int room = 0; room < before.size(); room += room < 64 ? 1 : 7) {
+    for (int room = 0; room < record.before.size(); room += room < 64 ? 1 : 7) {
         bytesLeft = room;
-        const QString failure = store.save(record);
+        const QString failure = record.save();
         bytesLeft = boundless;
-        QVERIFY2(failure.contains(store.fileName()), qPrintable(QString::number(room)));
-        QCOMPARE(contentOf(store.fileName()), before);
-        QCOMPARE(QDir(directory.configDirectory()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+        QVERIFY2(failure.contains(record.store.fileName()), qPrintable(QString::number(room)));
+        QCOMPARE(record.stored(), record.before);
+        QCOMPARE(record.files(), 1);
     }
     bytesLeft = changed.size();
-    QCOMPARE(store.save(record), QString());
-    QCOMPARE(contentOf(store.fileName()), changed);
+    QCOMPARE(record.save(), QString());
+    QCOMPARE(record.stored(), changed);
 }
 
 void tst_DiskFaults::recordThatCannotBeRenamed_data()
@@ -155,35 +179,26 @@ void tst_DiskFaults::recordThatCannotBeRenamed_data()
 void tst_DiskFaults::recordThatCannotBeRenamed()
 {
     QFETCH(int, error);
-    const DataDirectory directory(m_home);
-    RecordStore store(directory);
-    OwnedRecord record;
-    QCOMPARE(store.save(record), QString());
-    const QByteArray before = contentOf(store.fileName());
-    record.get().lockMinutes = 31;
+    ChangedRecord record(m_home);
     renameError = error;
-    QVERIFY(store.save(record).contains(store.fileName()));
-    QCOMPARE(contentOf(store.fileName()), before);
-    QCOMPARE(QDir(directory.configDirectory()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    QVERIFY(record.save().contains(record.store.fileName()));
+    QCOMPARE(record.stored(), record.before);
+    QCOMPARE(record.files(), 1);
     renameError = 0;
-    QCOMPARE(store.save(record), QString());
-    QVERIFY(contentOf(store.fileName()) != before);
+    QCOMPARE(record.save(), QString());
+    QVERIFY(record.stored() != record.before);
 }
 
 void tst_DiskFaults::recordInAReadOnlyDirectory()
 {
-    const DataDirectory directory(m_home);
-    RecordStore store(directory);
-    OwnedRecord record;
-    QCOMPARE(store.save(record), QString());
-    const QByteArray before = contentOf(store.fileName());
-    record.get().lockMinutes = 31;
+    ChangedRecord record(m_home);
     {
-        const Unprivileged user({m_home, directory.configDirectory(), store.fileName()});
-        const ReadOnly locked(directory.configDirectory());
-        QVERIFY(store.save(record).contains(store.fileName()));
+        const Unprivileged user(
+            {m_home, record.directory.configDirectory(), record.store.fileName()});
+        const ReadOnly locked(record.directory.configDirectory());
+        QVERIFY(record.save().contains(record.store.fileName()));
     }
-    QCOMPARE(contentOf(store.fileName()), before);
+    QCOMPARE(record.stored(), record.before);
 }
 
 void tst_DiskFaults::recordThatCannotBeRead()
