@@ -3,7 +3,6 @@
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -31,40 +30,6 @@ bool directoryHasRoomFor(const QString& path)
     QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
     return probe.open() && probe.write(content) == content.size() && probe.flush()
         && probe.size() == content.size();
-}
-
-constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
-
-/// Whether the last character is a backslash that no other one escapes.
-bool endsInBackslash(const QByteArray& line)
-{
-    int backslashes = 0;
-    while (backslashes < line.size() && line.at(line.size() - 1 - backslashes) == '\\')
-        ++backslashes;
-    return backslashes % 2 == 1;
-}
-
-/// Whether every line of the file is one that survives being read and written again. QSettings
-/// does not tell: it parses late, and a file that it has met before not at all.
-bool consistsOfSettings(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return true; // nothing to lose that could be read
-    if (file.peek(std::size(byteOrderMark) - 1) == byteOrderMark)
-        file.skip(std::size(byteOrderMark) - 1);
-    bool continuesValue = false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine().trimmed();
-        const bool partOfValue = continuesValue;
-        continuesValue = (partOfValue || line.contains('=')) && endsInBackslash(line);
-        if (partOfValue)
-            continue;
-        const bool section = line.startsWith('[') && line.endsWith(']');
-        if (!line.isEmpty() && !line.startsWith(';') && !section && !line.contains('='))
-            return false;
-    }
-    return true;
 }
 
 } // namespace
@@ -110,8 +75,6 @@ void save(int languageIndex, int scale)
     // A value set in vain would be read back as long as this process lives.
     if (!settings.isWritable() || !directoryHasRoomFor(path))
         return;
-    if (!consistsOfSettings(path))
-        QFile::copy(path, path + QStringLiteral(".bad"));
     settings.setValue(languageKey(), languageCode(languageIndex));
     settings.setValue(scaleKey(), scale);
     settings.sync();

@@ -11,7 +11,7 @@
  */
 namespace InterfaceSettings {
 
-/// ApplicationHomePath() as text; a path that was cut is whole up to there.
+/// ApplicationHomePath() as text, of which it gives 512 bytes at most.
 QString dataDirectory();
 
 /// Where the file is, existing or not.
@@ -25,8 +25,7 @@ int languageIndex();
 int scale();
 
 /// Writes both values and forces the file to disk; where that cannot work, for want of room or of
-/// leave, the file stays as it is. A file that holds anything but settings is kept beside the new
-/// one with ".bad" appended to its name, unless one is kept there already.
+/// permission, the file stays as it is.
 void save(int languageIndex, int scale);
 
 } // namespace InterfaceSettings
