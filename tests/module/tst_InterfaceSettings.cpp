@@ -132,6 +132,9 @@ private Q_SLOTS:
     void goodFiles_data();
     void goodFiles();
     void linesThatAreNoSettings();
+    void valuesThatAskForTooMuch_data();
+    void valuesThatAskForTooMuch();
+    void valueThatCannotBeMadeAText();
     void directoryInItsPlace();
     void unwritableDirectory();
     void fullDisk_data();
@@ -355,6 +358,76 @@ void tst_InterfaceSettings::linesThatAreNoSettings()
     QCOMPARE(contentOf(configFile()),
              QByteArray("[Other]\nname=value\n\n[UI]\nlanguage=en_US\nscale=145\n"));
     QCOMPARE(listing(), before);
+}
+
+void tst_InterfaceSettings::valuesThatAskForTooMuch_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("language");
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<QByteArray>("saved");
+    const QByteArray list("@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)");
+    const QByteArray variants("@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0zz)");
+    const QByteArray other("[Other]\nname=value\n\n");
+    const QByteArray ours("[UI]\nlanguage=en_US\nscale=145\n");
+    QTest::newRow("scale") << "[UI]\nlanguage=zh_TW\nscale=" + list + "\n" + other << 1 << 0
+                           << other + ours;
+    QTest::newRow("scale first") << "[UI]\nscale=" + list + "\nlanguage=zh_TW\n" + other << 1 << 0
+                                 << other + ours;
+    QTest::newRow("language") << "[UI]\nlanguage=" + variants + "\nscale=125\n" << 0 << 125 << ours;
+    QTest::newRow("both") << "[UI]\nlanguage=" + list + "\nscale=" + variants + "\n"
+                          << 0 << 0 << ours;
+    QTest::newRow("in quotes") << "[UI]\nlanguage=zh_TW\nscale=\"" + list + "\"\n"
+                               << 1 << 0 << ours;
+    QTest::newRow("after spaces") << "[UI]\nlanguage=zh_TW\nscale = " + list + "\n"
+                                  << 1 << 0 << ours;
+    QTest::newRow("on two lines") << QByteArray(
+        "[UI]\nlanguage=zh_TW\nscale=@Variant(\\0\\0\\0\\v\\x7f\\xff\\\n\\xff\\xf0zz)\n")
+                                  << 1 << 0 << ours;
+    // What others keep in the file stays there as a text, which the toolkit writes in its own way.
+    QTest::newRow("beside ours") << "[UI]\nfont=" + list + "\nlanguage=zh_TW\nscale=125\n"
+                                 << 1 << 125 << "[UI]\nfont=@String(" + list + ")" + ours.mid(4);
+    QTest::newRow("in a list") << "[UI]\nfont=a, " + list + "\nlanguage=zh_TW\nscale=125\n"
+                               << 1 << 125 << "[UI]\nfont=a, @String(" + list + ")" + ours.mid(4);
+    QTest::newRow("in another section") << "[Other]\nfont=" + list + "\nname=value\n\n"
+            + ours << 2 << 145 << "[Other]\nfont=@String(" + list + ")\nname=value\n\n" + ours;
+}
+
+void tst_InterfaceSettings::valuesThatAskForTooMuch()
+{
+    QFETCH(QByteArray, content);
+    writeFile(configFile(), content);
+    const QStringList before = listing();
+    QTEST(InterfaceSettings::languageIndex(), "language");
+    QTEST(InterfaceSettings::scale(), "scale");
+    {
+        const Dialog dialog;
+        QTEST(dialog.language().currentIndex(), "language");
+    }
+    QCOMPARE(contentOf(configFile()), content);
+    InterfaceSettings::save(2, 145);
+    QTEST(contentOf(configFile()), "saved");
+    QCOMPARE(listing(), before);
+    QCOMPARE(InterfaceSettings::languageIndex(), 2);
+    QCOMPARE(InterfaceSettings::scale(), 145);
+}
+
+// Its notation hides in escapes: what the toolkit can neither read nor write is left alone.
+void tst_InterfaceSettings::valueThatCannotBeMadeAText()
+{
+    const QByteArray content
+        = "[UI]\nlanguage=zh_TW\nscale=\\x40Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n";
+    writeFile(configFile(), content);
+    const QStringList before = listing();
+    QCOMPARE(InterfaceSettings::languageIndex(), 0);
+    QCOMPARE(InterfaceSettings::scale(), 0);
+    InterfaceSettings::save(2, 145);
+    QCOMPARE(contentOf(configFile()), content);
+    QCOMPARE(listing(), before);
+    // And no value is kept back that another writer of the file would find set.
+    writeFile(configFile(), "[UI]\nscale=125\n");
+    QCOMPARE(InterfaceSettings::languageIndex(), 0);
+    QCOMPARE(InterfaceSettings::scale(), 125);
 }
 
 void tst_InterfaceSettings::directoryInItsPlace()

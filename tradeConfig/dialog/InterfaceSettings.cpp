@@ -4,16 +4,21 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
 #include <QSettings>
 #include <QTemporaryFile>
+
+#include <new>
 
 namespace {
 
 constexpr const char* languageCodes[] = {"zh_CN", "zh_TW", "en_US"};
 
-QString languageKey() { return QStringLiteral("UI/language"); }
+// The settings' cache outlives this library, so the keys must not lie in its image.
+QString languageKey() { return QLatin1String("UI/language"); }
 
-QString scaleKey() { return QStringLiteral("UI/scale"); }
+QString scaleKey() { return QLatin1String("UI/scale"); }
 
 QString languageCode(int index)
 {
@@ -30,6 +35,42 @@ bool directoryHasRoomFor(const QString& path)
     QTemporaryFile probe(path + QStringLiteral(".XXXXXX"));
     return probe.open() && probe.write(content) == content.size() && probe.flush()
         && probe.size() == content.size();
+}
+
+/// Lets @p use work with the settings in the file at @p path. False if that takes more memory than
+/// there is: a value in the toolkit's binary notation can name any length.
+template <typename Use> bool withSettings(const QString& path, const Use& use)
+{
+    try {
+        QSettings settings(path, QSettings::IniFormat);
+        use(settings);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+/// Writes the file at @p path into @p copy with its binary values marked as plain texts.
+bool copyAsTexts(const QString& path, QFileDevice& copy)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
+        return false;
+    QString content = QString::fromLatin1(file.readAll());
+    content.replace(QRegularExpression(QStringLiteral("([=,]\\s*\"?)@Variant\\(")),
+                    QStringLiteral("\\1@@Variant("));
+    return file.error() == QFile::NoError && copy.write(content.toLatin1()) >= 0 && copy.flush();
+}
+
+QVariant storedValue(const QString& key)
+{
+    QVariant value;
+    const auto read = [&](const QSettings& settings) { value = settings.value(key); };
+    const QString path = InterfaceSettings::filePath();
+    QTemporaryFile texts;
+    if (!withSettings(path, read) && copyAsTexts(path, texts))
+        withSettings(texts.fileName(), read);
+    return value;
 }
 
 } // namespace
@@ -53,8 +94,7 @@ QString filePath()
 
 int languageIndex()
 {
-    const QSettings settings(filePath(), QSettings::IniFormat);
-    const QString code = settings.value(languageKey(), languageCode(0)).toString();
+    const QString code = storedValue(languageKey()).toString();
     for (int index = 1; index < int(std::size(languageCodes)); ++index) {
         if (code == QLatin1String(languageCodes[index]))
             return index;
@@ -62,22 +102,24 @@ int languageIndex()
     return 0;
 }
 
-int scale()
-{
-    const QSettings settings(filePath(), QSettings::IniFormat);
-    return settings.value(scaleKey()).toInt();
-}
+int scale() { return storedValue(scaleKey()).toInt(); }
 
 void save(int languageIndex, int scale)
 {
     const QString path = filePath();
-    QSettings settings(path, QSettings::IniFormat);
-    // A value set in vain would be read back as long as this process lives.
-    if (!settings.isWritable() || !directoryHasRoomFor(path))
-        return;
-    settings.setValue(languageKey(), languageCode(languageIndex));
-    settings.setValue(scaleKey(), scale);
-    settings.sync();
+    const auto write = [&](QSettings& settings) {
+        // A value that is set but cannot be written would be read back as long as this process
+        // lives. Writing reads all the others, so they are read before.
+        if (!settings.isWritable() || !directoryHasRoomFor(path))
+            return;
+        settings.allKeys();
+        settings.setValue(languageKey(), languageCode(languageIndex));
+        settings.setValue(scaleKey(), scale);
+        settings.sync();
+    };
+    QSaveFile texts(path);
+    if (!withSettings(path, write) && copyAsTexts(path, texts) && texts.commit())
+        withSettings(path, write);
 }
 
 } // namespace InterfaceSettings
