@@ -1,5 +1,6 @@
 #include "designer/KitPlugin.h"
 
+#include "designer/PageStack.h"
 #include "tradeConfig/CaptionBar.h"
 #include "tradeConfig/ImageButton.h"
 #include "tradeConfig/NavWidget.h"
@@ -51,13 +52,23 @@ QWidget* createTip(QWidget* parent) { return new CTipLabel(QStringLiteral("Tip")
 
 QWidget* createKeyCell(QWidget* parent) { return new CTableLineEdit(0, parent); }
 
+QWidget* createPageStack(QWidget* parent) { return new PageStack(parent); }
+
 constexpr KitWidget::Description descriptions[] = {
-    {"CSwitchEx", "tradeConfig/SwitchEx.h", "Switch bar", 300, 40, createSwitchBar},
-    {"CNavWidget", "tradeConfig/NavWidget.h", "Navigation list", 120, 150, createNavigationList},
-    {"CCaptionBar", "tradeConfig/CaptionBar.h", "Caption bar", 300, 30, createCaptionBar},
-    {"CImageButton", "tradeConfig/ImageButton.h", "Image button", 14, 14, createImageButton},
-    {"CTipLabel", "tradeConfig/TipLabel.h", "Fading tip", 160, 20, createTip},
-    {"CTableLineEdit", "tradeConfig/TableLineEdit.h", "Key-capture cell", 120, 24, createKeyCell},
+    {"CSwitchEx", "QWidget", "tradeConfig/SwitchEx.h", "switchBar", "Switch bar", 300, 40,
+     createSwitchBar, false},
+    {"CNavWidget", "QWidget", "tradeConfig/NavWidget.h", "navigationList", "Navigation list", 120,
+     150, createNavigationList, false},
+    {"CCaptionBar", "QWidget", "tradeConfig/CaptionBar.h", "captionBar", "Caption bar", 300, 30,
+     createCaptionBar, false},
+    {"CImageButton", "QPushButton", "tradeConfig/ImageButton.h", "imageButton", "Image button", 14,
+     14, createImageButton, false},
+    {"CTipLabel", "QLabel", "tradeConfig/TipLabel.h", "tipLabel", "Fading tip", 160, 20, createTip,
+     false},
+    {"CTableLineEdit", "QLineEdit", "tradeConfig/TableLineEdit.h", "keyCell", "Key-capture cell",
+     120, 24, createKeyCell, false},
+    {"PageStack", "QStackedWidget", "tradeConfig/PageStack.h", "pageStack", "Page stack", 300, 200,
+     createPageStack, true},
 };
 
 } // namespace
@@ -79,19 +90,24 @@ QString KitWidget::includeFile() const { return QString::fromLatin1(m_descriptio
 
 QIcon KitWidget::icon() const { return QIcon(); }
 
-bool KitWidget::isContainer() const { return false; }
+bool KitWidget::isContainer() const { return m_description.hasPages; }
 
 QWidget* KitWidget::createWidget(QWidget* parent) { return m_description.create(parent); }
 
 QString KitWidget::domXml() const
 {
+    const QLatin1String pages(m_description.hasPages ? "<widget class=\"QWidget\" name=\"page\"/>"
+                                                       "<widget class=\"QWidget\" name=\"page_2\"/>"
+                                                     : "");
     return QStringLiteral("<ui language=\"c++\"><widget class=\"%1\" name=\"%2\">"
                           "<property name=\"geometry\"><rect><x>0</x><y>0</y>"
-                          "<width>%3</width><height>%4</height></rect></property>"
-                          "</widget></ui>")
-        .arg(name(), name().mid(1).toLower())
+                          "<width>%3</width><height>%4</height></rect></property>%5</widget>"
+                          "<customwidgets><customwidget><class>%1</class>"
+                          "<extends>%6</extends></customwidget></customwidgets></ui>")
+        .arg(name(), QLatin1String(m_description.objectName))
         .arg(m_description.width)
-        .arg(m_description.height);
+        .arg(m_description.height)
+        .arg(pages, QLatin1String(m_description.extends));
 }
 
 KitPlugin::KitPlugin(QObject* parent)

@@ -11,11 +11,14 @@ class KitWidget : public QDesignerCustomWidgetInterface {
 public:
     struct Description {
         const char* className;
+        const char* extends; ///< class of the toolkit
         const char* header;
+        const char* objectName; ///< of a new one
         const char* toolTip;
         int width; ///< initial size in pixels
         int height; ///< initial size in pixels
         QWidget* (*create)(QWidget* parent);
+        bool hasPages; ///< holds other widgets, one page at a time
     };
 
     explicit KitWidget(const Description& description);
