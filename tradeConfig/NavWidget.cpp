@@ -18,6 +18,7 @@ constexpr int bandHeight = 50;
 constexpr int textLeft = 20;
 constexpr int textTop = 15;
 constexpr int textHeight = 20;
+constexpr int bareColumn = 1; // of pixels at the right, where the parent shows
 constexpr int noEntry = -1;
 
 } // namespace
@@ -36,17 +37,17 @@ void CNavWidget::SetBtnList(QStringList list)
 }
 
 // The very first row of pixels belongs to no entry.
-int CNavWidget::EntryAt(int y) const
+int CNavWidget::entryAt(int y) const
 {
     return y > 0 && y < bandHeight * count ? y / bandHeight : noEntry;
 }
 
-QRectF CNavWidget::EntryRect(int index) const
+QRectF CNavWidget::entryRect(int index) const
 {
     return QRectF(0, bandHeight * index, width(), bandHeight);
 }
 
-void CNavWidget::Press(int index)
+void CNavWidget::press(int index)
 {
     selected = index;
     NavWidgetAccessible::selected(*this);
@@ -58,14 +59,14 @@ void CNavWidget::Press(int index)
 
 void CNavWidget::mousePressEvent(QMouseEvent* event)
 {
-    const int index = EntryAt(event->y());
+    const int index = entryAt(event->y());
     if (index != noEntry)
-        Press(index);
+        press(index);
 }
 
 void CNavWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    const int index = EntryAt(event->y());
+    const int index = entryAt(event->y());
     if (index == noEntry)
         return;
     hover = index;
@@ -88,10 +89,11 @@ void CNavWidget::paintEvent(QPaintEvent*)
         CSkin::Instance()->fillRect(painter, area, key);
     };
     if (selected != 0)
-        fill(QRectF(0, 0, w - 1, band), Colour::NavSwitchBorder());
-    fill(QRectF(0, band + bandHeight, w - 1, h - band - bandHeight), Colour::NavSwitchBorder());
+        fill(QRectF(0, 0, w - bareColumn, band), Colour::NavSwitchBorder());
+    fill(QRectF(0, band + bandHeight, w - bareColumn, h - band - bandHeight),
+         Colour::NavSwitchBorder());
     if (hover != selected)
-        fill(EntryRect(hover), Colour::NavSwitchBgHover());
+        fill(entryRect(hover), Colour::NavSwitchBgHover());
     for (int i = 0; i < count; ++i) {
         const bool isSelected = i == selected;
         CSkin::Instance()->drawText(

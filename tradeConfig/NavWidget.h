@@ -37,7 +37,7 @@ protected:
 private:
     friend class NavWidgetAccessible;
 
-    int EntryAt(int y) const;
-    QRectF EntryRect(int index) const;
-    void Press(int index);
+    int entryAt(int y) const;
+    QRectF entryRect(int index) const;
+    void press(int index);
 };

@@ -38,7 +38,7 @@ bool NavWidgetAccessible::hasPart(int key) const { return key < list()->count; }
 
 QString NavWidgetAccessible::partName(int key) const { return list()->items.value(key); }
 
-QRectF NavWidgetAccessible::partRect(int key) const { return list()->EntryRect(key); }
+QRectF NavWidgetAccessible::partRect(int key) const { return list()->entryRect(key); }
 
 QAccessible::Role NavWidgetAccessible::partRole(int) const { return QAccessible::ListItem; }
 
@@ -52,10 +52,10 @@ void NavWidgetAccessible::addPartState(int key, QAccessible::State& state) const
 
 bool NavWidgetAccessible::canPress(int) const { return true; }
 
-void NavWidgetAccessible::press(int key) { list()->Press(key); }
+void NavWidgetAccessible::press(int key) { list()->press(key); }
 
 bool NavWidgetAccessible::partAt(QPoint point, int& key) const
 {
-    key = list()->EntryAt(point.y());
+    key = list()->entryAt(point.y());
     return hasPart(key) && key >= 0;
 }

@@ -66,7 +66,7 @@ SwitchItem* CSwitchEx::AddNormalSwitch(const QString& label, std::function<void(
         item->rect.setSize(QSize(itemSize, height()));
     else
         item->rect.setSize(QSize(width(), itemSize));
-    return Append(std::move(item), atEnd);
+    return append(std::move(item), atEnd);
 }
 
 SwitchItem* CSwitchEx::AddImageSwitch(const QString& label, const QString& image,
@@ -84,7 +84,7 @@ SwitchItem* CSwitchEx::AddImageSwitch(const QString& label, const QString& image
         item->rect.setSize(QSize(int(measured.width()), height() / devicePixelRatio()));
     else
         item->rect.setSize(QSize(width() / devicePixelRatio(), int(measured.height())));
-    return Append(std::move(item), atEnd);
+    return append(std::move(item), atEnd);
 }
 
 SwitchItem* CSwitchEx::AddSeparator(int thickness, bool atEnd)
@@ -93,10 +93,10 @@ SwitchItem* CSwitchEx::AddSeparator(int thickness, bool atEnd)
     item->isSeparator = true;
     item->rect.setSize(orientation == Qt::Horizontal ? QSize(thickness, height())
                                                      : QSize(width(), thickness));
-    return Append(std::move(item), atEnd);
+    return append(std::move(item), atEnd);
 }
 
-SwitchItem* CSwitchEx::Append(std::unique_ptr<SwitchItem> item, bool atEnd)
+SwitchItem* CSwitchEx::append(std::unique_ptr<SwitchItem> item, bool atEnd)
 {
     SwitchItem* const added = item.release();
     (atEnd ? endItems : items).append(added);
@@ -105,7 +105,7 @@ SwitchItem* CSwitchEx::Append(std::unique_ptr<SwitchItem> item, bool atEnd)
     return added;
 }
 
-SwitchItem* CSwitchEx::FindLabel(const QString& label) const
+SwitchItem* CSwitchEx::findLabel(const QString& label) const
 {
     for (const auto* list : {&items, &endItems}) {
         for (SwitchItem* item : *list) {
@@ -116,7 +116,7 @@ SwitchItem* CSwitchEx::FindLabel(const QString& label) const
     return nullptr;
 }
 
-bool CSwitchEx::Owns(SwitchItem* item) const
+bool CSwitchEx::owns(SwitchItem* item) const
 {
     return items.contains(item) || endItems.contains(item);
 }
@@ -124,7 +124,7 @@ bool CSwitchEx::Owns(SwitchItem* item) const
 bool CSwitchEx::ModifySwitch(const QString& oldLabel, const QString& newLabel,
                              std::function<void()> callback)
 {
-    SwitchItem* const item = FindLabel(oldLabel);
+    SwitchItem* const item = findLabel(oldLabel);
     if (!item)
         return false;
     item->label = newLabel;
@@ -138,7 +138,7 @@ bool CSwitchEx::ModifyImageSwitch(const QString& oldLabel, const QString& newLab
                                   const QString& image, const QString& selImage,
                                   std::function<void()> callback)
 {
-    SwitchItem* const item = FindLabel(oldLabel);
+    SwitchItem* const item = findLabel(oldLabel);
     if (!item)
         return false;
     item->label = newLabel;
@@ -152,7 +152,7 @@ bool CSwitchEx::ModifyImageSwitch(const QString& oldLabel, const QString& newLab
 
 void CSwitchEx::SetItemLabel(SwitchItem* item, const QString& label)
 {
-    if (!Owns(item))
+    if (!owns(item))
         return;
     item->label = label;
     SwitchExAccessible::renamed(*this, item);
@@ -182,7 +182,7 @@ SwitchItem* CSwitchEx::GetCurSel(QString& label) const
 
 void CSwitchEx::SetCurSel(SwitchItem* item, bool notify)
 {
-    if (!Owns(item))
+    if (!owns(item))
         return;
     curSel = item;
     SwitchExAccessible::selected(*this);

@@ -163,9 +163,9 @@ protected:
 private:
     friend class SwitchExAccessible;
 
-    SwitchItem* Append(std::unique_ptr<SwitchItem> item, bool atEnd);
-    SwitchItem* FindLabel(const QString& label) const;
-    bool Owns(SwitchItem* item) const;
-    double PackEndItems();
-    void DrawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
+    SwitchItem* append(std::unique_ptr<SwitchItem> item, bool atEnd);
+    SwitchItem* findLabel(const QString& label) const;
+    bool owns(SwitchItem* item) const;
+    double packEndItems();
+    void drawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
 };

@@ -43,7 +43,7 @@ void CSwitchEx::DoClickItem()
         menu->popup(place.topLeft());
         return;
     }
-    // The action may clear the bar or delete it: neither the item nor this may be touched after.
+    // The action may clear the bar or delete it: the item is not touched after, this only if alive.
     const QPointer<CSwitchEx> alive = this;
     const std::function<void()> action = curSel->callback;
     if (action)

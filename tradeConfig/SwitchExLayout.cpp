@@ -53,7 +53,7 @@ QSizeF CSwitchEx::CalcItemSize(SwitchItem* item)
         // An unknown image may come back as an invalid size.
         size = CSkin::Instance()->GetBitmapSize(item->image).expandedTo(QSizeF(0, 0));
     } else {
-        // The font is this one in every mode, whatever font the mode paints with.
+        // Always in this font, although some modes paint with another.
         size = CSkin::Instance()->textSize(this, SkinKeys::Font::Switch(), item->label);
         const bool horizontal = orientation == Qt::Horizontal;
         if (item->menu) {
@@ -87,7 +87,7 @@ void CSwitchEx::ReLayout()
 
 void CSwitchEx::ReLayoutSwitch()
 {
-    // visibleCount stays: how many main items are painted is what the last other layout counted.
+    // visibleCount is left alone, so that as many main items are painted as before the division.
     firstIndex = 0;
     moreShown = false;
     const SwitchAxis axis(orientation);
@@ -107,7 +107,7 @@ void CSwitchEx::ReLayoutSwitch()
 }
 
 // Places the end items from the far edge inwards; returns where the innermost one begins.
-double CSwitchEx::PackEndItems()
+double CSwitchEx::packEndItems()
 {
     const SwitchAxis axis(orientation);
     double position = axis.extent(size());
@@ -125,7 +125,7 @@ void CSwitchEx::ReLayoutShowAll()
     moreRect = QRectF();
     firstIndex = 0;
     visibleCount = items.size();
-    PackEndItems();
+    packEndItems();
     const SwitchAxis axis(orientation);
     double position = 0;
     for (SwitchItem* item : qAsConst(items)) {
@@ -139,13 +139,13 @@ void CSwitchEx::ReLayoutMoreButton()
 {
     const SwitchAxis axis(orientation);
     moreShown = true;
-    const double available = PackEndItems() - moreLength;
+    const double available = packEndItems() - moreLength;
     moreRect = axis.rectangle(available, moreLength, axis.breadth(size()));
 
     double rest = 0;
     for (int i = firstIndex; i < items.size(); ++i)
         rest += axis.extent(items[i]->rect);
-    // The test takes the width in a vertical bar too; the sum does not.
+    // A vertical bar adds up heights and compares the previous item's width all the same.
     while (firstIndex > 0 && rest + items[firstIndex - 1]->rect.width() < available) {
         --firstIndex;
         rest += axis.extent(items[firstIndex]->rect);
@@ -178,7 +178,7 @@ SwitchItem* CSwitchEx::HitTest(QPointF point, bool click)
         if (item->rect.contains(point))
             return item;
     }
-    // To the end of the list, beyond the items shown.
+    // Also the items behind those shown: they keep their last cell and can be hit there.
     for (int i = firstIndex; i < items.size(); ++i) {
         if (items[i]->rect.contains(point))
             return items[i];

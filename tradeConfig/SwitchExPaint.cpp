@@ -16,8 +16,10 @@ constexpr double lineWidth = 1.0;
 constexpr int centredLine = Qt::AlignCenter | Qt::TextSingleLine;
 constexpr int centredColumn = Qt::AlignCenter | Qt::TextWrapAnywhere;
 constexpr int centredBottom = Qt::AlignCenter | Qt::AlignBottom;
+constexpr int imageFrames = 1; // an image of the bar is no strip of frames
+constexpr int onlyFrame = 0;
 
-// How one state of an item looks. A null key leaves its step out.
+// How one state of an item looks. Without a fill key nothing is filled.
 struct StateLook {
     Key fill;
     Key text;
@@ -31,10 +33,10 @@ struct Inset {
 
 enum LookOption {
     OutlineOutside = 1, // items outside the widget keep their outline
-    TextInOutline = 2, // the text lies in the outline, not in what is filled
+    TextInOutline = 2, // the text is placed in the outline, not in the smaller filled area
     Column = 4, // a vertical bar writes one character a line and marks the selected item
-    Images = 8, // image items show their image
-    ImagesOnly = 16, // and nothing else is painted, nor an image item with a menu
+    Images = 8, // image items show their image instead of fill and text
+    ImagesOnly = 16, // only image items without a menu are painted
 };
 
 constexpr StateLook switchSelected{Colour::SwitchBgSelect, Colour::SwitchFgSelect, Font::Switch};
@@ -62,8 +64,8 @@ constexpr Inset allSides{1, 1, -1, -1};
 
 } // namespace
 
-// How the items of one mode look. Without a text key in its menu state, a mode draws items with
-// a menu like the others.
+// How the items of one mode look. A mode without a text key for menus draws items with a menu
+// like those without one.
 struct SwitchLook {
     Key outline;
     Inset horizontalInset;
@@ -93,7 +95,7 @@ constexpr SwitchLook looks[] = {
     // ModeFlatBlue
     {Colour::SwitchBorder, allSides, allSides,
      switchSelected, switchHover, switchNormal, switchMenu, 0},
-    // ModeIKButton: the same as ModeFlatBlue, and meant to be
+    // ModeIKButton: meant to look like ModeFlatBlue
     {Colour::SwitchBorder, allSides, allSides,
      switchSelected, switchHover, switchNormal, switchMenu, 0},
     // ModeImageButton
@@ -119,7 +121,7 @@ void CSwitchEx::paintEvent(QPaintEvent*)
     DrawMoreButton(painter);
     for (SwitchItem* item : qAsConst(endItems))
         DrawItem(painter, item);
-    // visibleCount outlives the items that ClearAll() frees.
+    // ClearAll() leaves visibleCount as it is: there may be fewer items than it counts.
     for (int i = firstIndex; i < firstIndex + visibleCount && i < items.size(); ++i)
         DrawItem(painter, items[i]);
 }
@@ -161,7 +163,7 @@ void CSwitchEx::DrawMoreButton(QPainter& painter)
         = [](bool grey) { return grey ? Colour::SwitchFgDisable() : Colour::SwitchFgNormal(); };
     const bool atStart = firstIndex < 1;
     const bool moreFollow = firstIndex + visibleCount < items.size();
-    // The arrow down is grey while more items follow, the other way round than the arrow right.
+    // Unlike the arrow right, the arrow down is grey while more items follow.
     CSkin::Instance()->drawText(painter, back, horizontal ? centredLine : centredBottom,
                                 colour(atStart), Font::Switch(),
                                 horizontal ? SWITCH_ARROW_LEFT : SWITCH_ARROW_UP);
@@ -209,40 +211,40 @@ void CSwitchEx::DrawSeparator(QPainter& painter, SwitchItem* item)
 
 void CSwitchEx::DrawSwith(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeSwitch));
+    drawLook(painter, *item, lookOf(ModeSwitch));
 }
 
 void CSwitchEx::DrawButton(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeButton));
+    drawLook(painter, *item, lookOf(ModeButton));
 }
 
 void CSwitchEx::DrawFlatButton(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeFlatButton));
+    drawLook(painter, *item, lookOf(ModeFlatButton));
 }
 
 void CSwitchEx::DrawFlatBlue(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeFlatBlue));
+    drawLook(painter, *item, lookOf(ModeFlatBlue));
 }
 
 void CSwitchEx::DrawModeIKButton(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeIKButton));
+    drawLook(painter, *item, lookOf(ModeIKButton));
 }
 
 void CSwitchEx::DrawImageButton(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeImageButton));
+    drawLook(painter, *item, lookOf(ModeImageButton));
 }
 
 void CSwitchEx::DrawNavButton(QPainter& painter, SwitchItem* item)
 {
-    DrawLook(painter, *item, lookOf(ModeNavButton));
+    drawLook(painter, *item, lookOf(ModeNavButton));
 }
 
-void CSwitchEx::DrawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look)
+void CSwitchEx::drawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look)
 {
     const QRectF outline = item.rect.marginsRemoved(padding);
     const bool inside = QRectF(rect()).intersects(outline);
@@ -262,14 +264,14 @@ void CSwitchEx::DrawLook(QPainter& painter, const SwitchItem& item, const Switch
             = CSkin::Instance()->textSize(this, Font::Switch(), QStringLiteral("一"));
         const double indent = (outline.width() - character.width()) / 2;
         text.adjust(indent, 0, -indent, 0);
-        // Before the fill, which leaves no more of it than its own inset spares.
+        // Before the fill, which may cover a part of the line.
         if (selected)
             CSkin::Instance()->drawLine(painter, Colour::SwitchSelLine(), outline.topRight(),
                                         outline.bottomRight(), Qt::SolidLine, lineWidth);
     }
     if (look.has(Images) && item.isImage) {
-        CSkin::Instance()->drawImage(painter, inner, selected ? item.selImage : item.image, 1, 0,
-                                     false, false);
+        CSkin::Instance()->drawImage(painter, inner, selected ? item.selImage : item.image,
+                                     imageFrames, onlyFrame, false, false);
         return;
     }
 
@@ -280,7 +282,7 @@ void CSwitchEx::DrawLook(QPainter& painter, const SwitchItem& item, const Switch
                                   : look.normal;
     if (state.fill)
         CSkin::Instance()->fillRect(painter, inner, state.fill());
-    // Measured as "▼" in a horizontal bar, drawn as "▲".
+    // CalcItemSize() measures a horizontal bar's arrow as "▼"; it is drawn as "▲".
     const QString& arrow = horizontal ? SWITCH_ARROW_UP : SWITCH_ARROW_RIGHT;
     CSkin::Instance()->drawText(painter, text, column ? centredColumn : centredLine, state.text(),
                                 state.font(), menu ? item.label + arrow : item.label);

@@ -158,7 +158,7 @@ void tst_NavWidget::aSlotMayDeleteTheList()
     list->resize(120, 400);
     list->SetBtnList(names(3));
     connect(list.get(), &CNavWidget::signal_onclicked, this, [&](int) { list.reset(); });
-    list->Press(1);
+    list->press(1);
     QVERIFY(!list);
 }
 
