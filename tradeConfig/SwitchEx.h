@@ -82,7 +82,7 @@ public:
     SwitchItem* AddImageSwitch(const QString& label, const QString& image, const QString& selImage,
                                std::function<void()> callback = {}, bool atEnd = false);
 
-    /// Adds a separator of @p thickness pixels. It is never selected.
+    /// Adds a separator of @p thickness pixels. A press does not select it; SetCurSel() does.
     SwitchItem* AddSeparator(int thickness, bool atEnd = false);
 
     /// Gives the first item labelled @p oldLabel (main items before end items) a new label and

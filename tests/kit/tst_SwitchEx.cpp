@@ -50,7 +50,8 @@ private Q_SLOTS:
     void hitTestingBeyondTheItemsShown();
     void aPressSelectsAndAReleaseRuns();
     void aDoubleClickCountsTwice();
-    void separatorsAreNotSelected();
+    void aPressDoesNotSelectASeparator();
+    void theProgramSelectsASeparator();
     void hovering();
     void theSelectionOutlivesScrolling();
     void selectingFromTheProgram();
@@ -898,7 +899,7 @@ void tst_SwitchEx::aDoubleClickCountsTwice()
     QCOMPARE(runs, 2);
 }
 
-void tst_SwitchEx::separatorsAreNotSelected()
+void tst_SwitchEx::aPressDoesNotSelectASeparator()
 {
     Bar bar(Qt::Horizontal, QSize(300, 40));
     int runs = 0;
@@ -911,7 +912,17 @@ void tst_SwitchEx::separatorsAreNotSelected()
     QCOMPARE(runs, 0);
     bar.move({60, 20});
     QCOMPARE(bar.hoverItem, separator);
-    // Only from the program it can be.
+}
+
+void tst_SwitchEx::theProgramSelectsASeparator()
+{
+    Bar bar(Qt::Horizontal, QSize(300, 40));
+    int runs = 0;
+    const auto separator = bar.AddSeparator(50);
+    separator->callback = [&] { ++runs; };
+    bar.SetCurSel(separator, false);
+    QCOMPARE(bar.curSel, separator);
+    QCOMPARE(runs, 0);
     bar.SetCurSel(separator, true);
     QCOMPARE(bar.curSel, separator);
     QCOMPARE(runs, 1);
