@@ -1,6 +1,7 @@
 #include "tradeConfig/NavWidget.h"
 
 #include "tradeConfig/NavWidgetAccessible.h"
+#include "tradeConfig/PartEvents.h"
 #include "tradeConfig/skin/CSkin.h"
 #include "tradeConfig/skin/SkinKeys.h"
 
@@ -50,7 +51,7 @@ QRectF CNavWidget::entryRect(int index) const
 void CNavWidget::press(int index)
 {
     selected = index;
-    NavWidgetAccessible::selected(*this);
+    PartEvents::tell(*this, QAccessible::Selection, selected);
     const QPointer<CNavWidget> alive = this; // a slot may delete the list
     Q_EMIT signal_onclicked(selected);
     if (alive)

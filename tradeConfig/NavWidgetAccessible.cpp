@@ -16,15 +16,6 @@ QAccessibleInterface* create(const QString& className, QObject* object)
 
 void NavWidgetAccessible::install() { static const AccessibleFactory factory(&create); }
 
-void NavWidgetAccessible::selected(CNavWidget& list)
-{
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(&list, QAccessible::Selection);
-    event.setChild(list.selected);
-    QAccessible::updateAccessibility(&event);
-}
-
 NavWidgetAccessible::NavWidgetAccessible(CNavWidget* list)
     : PartsAccessible(list, QAccessible::List)
 {

@@ -10,8 +10,6 @@ public:
     /// Once in the life of the library; interfaces only come to be when asked for.
     static void install();
 
-    static void selected(CNavWidget& list);
-
     explicit NavWidgetAccessible(CNavWidget* list);
 
     int childCount() const override;

@@ -1,5 +1,6 @@
 #include "tradeConfig/SwitchEx.h"
 
+#include "tradeConfig/PartEvents.h"
 #include "tradeConfig/SwitchExAccessible.h"
 
 #include <QPointer>
@@ -121,6 +122,21 @@ bool CSwitchEx::owns(SwitchItem* item) const
     return items.contains(item) || endItems.contains(item);
 }
 
+int CSwitchEx::partIndex(SwitchItem* item) const
+{
+    const int main = items.indexOf(item);
+    if (main >= 0)
+        return main;
+    const int end = endItems.indexOf(item);
+    return end >= 0 ? items.size() + endItems.size() - 1 - end : PartEvents::noPart;
+}
+
+SwitchItem* CSwitchEx::part(int index) const
+{
+    return index < items.size() ? items.value(index)
+                                : endItems.value(items.size() + endItems.size() - 1 - index);
+}
+
 bool CSwitchEx::ModifySwitch(const QString& oldLabel, const QString& newLabel,
                              std::function<void()> callback)
 {
@@ -129,7 +145,7 @@ bool CSwitchEx::ModifySwitch(const QString& oldLabel, const QString& newLabel,
         return false;
     item->label = newLabel;
     item->callback = std::move(callback);
-    SwitchExAccessible::renamed(*this, item);
+    PartEvents::tell(*this, QAccessible::NameChanged, partIndex(item));
     update();
     return true;
 }
@@ -145,7 +161,7 @@ bool CSwitchEx::ModifyImageSwitch(const QString& oldLabel, const QString& newLab
     item->image = image;
     item->selImage = selImage;
     item->callback = std::move(callback);
-    SwitchExAccessible::renamed(*this, item);
+    PartEvents::tell(*this, QAccessible::NameChanged, partIndex(item));
     update();
     return true;
 }
@@ -155,7 +171,7 @@ void CSwitchEx::SetItemLabel(SwitchItem* item, const QString& label)
     if (!owns(item))
         return;
     item->label = label;
-    SwitchExAccessible::renamed(*this, item);
+    PartEvents::tell(*this, QAccessible::NameChanged, partIndex(item));
     update();
 }
 
@@ -180,12 +196,17 @@ SwitchItem* CSwitchEx::GetCurSel(QString& label) const
     return curSel;
 }
 
+void CSwitchEx::select(SwitchItem* item)
+{
+    curSel = item;
+    PartEvents::tell(*this, QAccessible::Selection, partIndex(item));
+}
+
 void CSwitchEx::SetCurSel(SwitchItem* item, bool notify)
 {
     if (!owns(item))
         return;
-    curSel = item;
-    SwitchExAccessible::selected(*this);
+    select(item);
     const QPointer<CSwitchEx> alive = this; // an action may delete the bar
     if (notify)
         DoClickItem();

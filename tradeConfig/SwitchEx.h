@@ -166,6 +166,13 @@ private:
     SwitchItem* append(std::unique_ptr<SwitchItem> item, bool atEnd);
     SwitchItem* findLabel(const QString& label) const;
     bool owns(SwitchItem* item) const;
+    void select(SwitchItem* item);
+
+    // Items as assistive technology counts them: the main ones, then the end items from the
+    // innermost outwards, as they stand on the screen.
+    int partIndex(SwitchItem* item) const;
+    SwitchItem* part(int index) const;
+
     double packEndItems();
     void drawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
 };

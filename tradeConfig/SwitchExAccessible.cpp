@@ -20,30 +20,6 @@ QAccessibleInterface* create(const QString& className, QObject* object)
 
 void SwitchExAccessible::install() { static const AccessibleFactory factory(&create); }
 
-void SwitchExAccessible::selected(CSwitchEx& bar)
-{
-    notify(bar, QAccessible::Selection, bar.curSel);
-}
-
-void SwitchExAccessible::renamed(CSwitchEx& bar, const SwitchItem* item)
-{
-    notify(bar, QAccessible::NameChanged, item);
-}
-
-void SwitchExAccessible::notify(CSwitchEx& bar, QAccessible::Event type, const SwitchItem* item)
-{
-    if (!QAccessible::isActive())
-        return;
-    const auto find = [item](const QVector<SwitchItem*>& list) {
-        return list.indexOf(const_cast<SwitchItem*>(item));
-    };
-    const int main = find(bar.items);
-    QAccessibleEvent event(&bar, type);
-    event.setChild(main >= 0 ? main
-                             : bar.items.size() + bar.endItems.size() - 1 - find(bar.endItems));
-    QAccessible::updateAccessibility(&event);
-}
-
 SwitchExAccessible::SwitchExAccessible(CSwitchEx* bar)
     : PartsAccessible(bar, QAccessible::PageTabList)
 {

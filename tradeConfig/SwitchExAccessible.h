@@ -12,9 +12,6 @@ public:
     /// Once in the life of the library; interfaces only come to be when asked for.
     static void install();
 
-    static void selected(CSwitchEx& bar);
-    static void renamed(CSwitchEx& bar, const SwitchItem* item);
-
     explicit SwitchExAccessible(CSwitchEx* bar);
 
     int childCount() const override;
@@ -32,8 +29,6 @@ protected:
     bool partAt(QPoint point, int& key) const override;
 
 private:
-    static void notify(CSwitchEx& bar, QAccessible::Event type, const SwitchItem* item);
-
     CSwitchEx* bar() const;
     SwitchItem* item(int key) const;
 };

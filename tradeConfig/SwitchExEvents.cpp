@@ -1,5 +1,4 @@
 #include "tradeConfig/SwitchEx.h"
-#include "tradeConfig/SwitchExAccessible.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -59,8 +58,7 @@ void CSwitchEx::mousePressEvent(QMouseEvent* event)
     SwitchItem* const item = HitTest(event->localPos(), false);
     if (!item || item->isSeparator)
         return;
-    curSel = item;
-    SwitchExAccessible::selected(*this);
+    select(item);
     update();
 }
 
