@@ -33,8 +33,10 @@ CNavWidget::CNavWidget(QWidget* parent)
 
 void CNavWidget::SetBtnList(QStringList list)
 {
+    PartEvents::tellEach(*this, QAccessible::ObjectDestroyed, count);
     items = std::move(list);
     count = items.size();
+    PartEvents::tellEach(*this, QAccessible::ObjectCreated, count);
 }
 
 // The very first row of pixels belongs to no entry.
@@ -50,8 +52,10 @@ QRectF CNavWidget::entryRect(int index) const
 
 void CNavWidget::press(int index)
 {
+    // A shorter list may have left the selection behind its end.
+    const int before = selected < count ? selected : PartEvents::noPart;
     selected = index;
-    PartEvents::tell(*this, QAccessible::Selection, selected);
+    PartEvents::tellSelection(*this, before, selected);
     const QPointer<CNavWidget> alive = this; // a slot may delete the list
     Q_EMIT signal_onclicked(selected);
     if (alive)

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 const QString SWITCH_ARROW_LEFT = QStringLiteral("◀");
 const QString SWITCH_ARROW_RIGHT = QStringLiteral("▶");
 const QString SWITCH_ARROW_UP = QStringLiteral("▲");
@@ -102,6 +104,10 @@ SwitchItem* CSwitchEx::append(std::unique_ptr<SwitchItem> item, bool atEnd)
     SwitchItem* const added = item.release();
     (atEnd ? endItems : items).append(added);
     ReLayout();
+    const int index = atEnd ? items.size() : items.size() - 1; // the new end item is the innermost
+    PartEvents::tell(*this, QAccessible::ObjectCreated, index);
+    if (index + 1 < partCount()) // what stands behind it has moved by one
+        PartEvents::tell(*this, QAccessible::ObjectReorder, PartEvents::noPart);
     update();
     return added;
 }
@@ -122,19 +128,20 @@ bool CSwitchEx::owns(SwitchItem* item) const
     return items.contains(item) || endItems.contains(item);
 }
 
+int CSwitchEx::partCount() const { return items.size() + endItems.size(); }
+
 int CSwitchEx::partIndex(SwitchItem* item) const
 {
     const int main = items.indexOf(item);
     if (main >= 0)
         return main;
     const int end = endItems.indexOf(item);
-    return end >= 0 ? items.size() + endItems.size() - 1 - end : PartEvents::noPart;
+    return end >= 0 ? partCount() - 1 - end : PartEvents::noPart;
 }
 
 SwitchItem* CSwitchEx::part(int index) const
 {
-    return index < items.size() ? items.value(index)
-                                : endItems.value(items.size() + endItems.size() - 1 - index);
+    return index < items.size() ? items.value(index) : endItems.value(partCount() - 1 - index);
 }
 
 bool CSwitchEx::ModifySwitch(const QString& oldLabel, const QString& newLabel,
@@ -177,6 +184,7 @@ void CSwitchEx::SetItemLabel(SwitchItem* item, const QString& label)
 
 void CSwitchEx::ClearAll()
 {
+    PartEvents::tellEach(*this, QAccessible::ObjectDestroyed, partCount());
     qDeleteAll(items);
     items.clear();
     qDeleteAll(endItems);
@@ -198,8 +206,8 @@ SwitchItem* CSwitchEx::GetCurSel(QString& label) const
 
 void CSwitchEx::select(SwitchItem* item)
 {
-    curSel = item;
-    PartEvents::tell(*this, QAccessible::Selection, partIndex(item));
+    SwitchItem* const before = std::exchange(curSel, item);
+    PartEvents::tellSelection(*this, partIndex(before), partIndex(item));
 }
 
 void CSwitchEx::SetCurSel(SwitchItem* item, bool notify)

@@ -170,6 +170,7 @@ private:
 
     // Items as assistive technology counts them: the main ones, then the end items from the
     // innermost outwards, as they stand on the screen.
+    int partCount() const;
     int partIndex(SwitchItem* item) const;
     SwitchItem* part(int index) const;
 

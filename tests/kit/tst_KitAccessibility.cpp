@@ -31,7 +31,6 @@ private Q_SLOTS:
     void theListIsAListOfItems();
     void theListFollowsTheMouse();
     void aPressOnTheListSelectsAndTells();
-    void whatChangesIsTold();
     void aFactoryEndsWithItsOwner();
 };
 
@@ -59,25 +58,6 @@ void pressPart(QAccessibleInterface* part)
     actions->doAction(QAccessibleActionInterface::pressAction());
 }
 
-struct Notice {
-    QAccessible::Event type;
-    QObject* object;
-    int child;
-
-    bool operator==(const Notice& other) const
-    {
-        return type == other.type && object == other.object && child == other.child;
-    }
-};
-
-bool someoneListens = false;
-
-QVector<Notice>& notices()
-{
-    static QVector<Notice> list;
-    return list;
-}
-
 int factoryCalls = 0;
 
 QAccessibleInterface* countingFactory(const QString&, QObject*)
@@ -99,16 +79,6 @@ public:
 };
 
 } // namespace
-
-// No platform plugin of a test run can be told that someone listens: these stand in for the
-// toolkit's own.
-bool QAccessible::isActive() { return someoneListens; }
-
-void QAccessible::updateAccessibility(QAccessibleEvent* event)
-{
-    if (event->type() == QAccessible::Selection || event->type() == QAccessible::NameChanged)
-        notices() << Notice{event->type(), event->object(), event->child()};
-}
 
 void tst_KitAccessibility::theBarIsAListOfPageTabs()
 {
@@ -456,40 +426,6 @@ void tst_KitAccessibility::aPressOnTheListSelectsAndTells()
     QCOMPARE(clicked.size(), 2);
     QCOMPARE(nav.selected, 2);
     QCOMPARE(list->childCount(), 1);
-}
-
-void tst_KitAccessibility::whatChangesIsTold()
-{
-    someoneListens = true;
-    Bar bar(nullptr, Qt::Horizontal, QMargins());
-    bar.resize(400, 40);
-    const auto a = bar.AddNormalSwitch(text("a"));
-    bar.AddNormalSwitch(text("b"));
-    const auto outer = bar.AddNormalSwitch(text("outer"), {}, true);
-    const auto inner = bar.AddNormalSwitch(text("inner"), {}, true);
-    notices().clear();
-    bar.SetCurSel(outer, false);
-    QTest::mousePress(&bar, Qt::LeftButton, {}, {60, 20});
-    bar.SetItemLabel(a, text("a2"));
-    QVERIFY(bar.ModifySwitch(text("b"), text("b2"), {}));
-    QVERIFY(bar.ModifyImageSwitch(text("inner"), text("inner2"), {}, {}, {}));
-    QCOMPARE(inner->label, text("inner2"));
-    CNavWidget nav;
-    nav.resize(120, 400);
-    nav.SetBtnList({text("a"), text("b")});
-    QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 60});
-    QCOMPARE(notices(),
-             (QVector<Notice>{{QAccessible::Selection, &bar, 3},
-                              {QAccessible::Selection, &bar, 1},
-                              {QAccessible::NameChanged, &bar, 0},
-                              {QAccessible::NameChanged, &bar, 1},
-                              {QAccessible::NameChanged, &bar, 2},
-                              {QAccessible::Selection, &nav, 1}}));
-    notices().clear();
-    someoneListens = false;
-    bar.SetCurSel(a, false);
-    QTest::mousePress(&nav, Qt::LeftButton, {}, {10, 10});
-    QVERIFY(notices().isEmpty());
 }
 
 void tst_KitAccessibility::aFactoryEndsWithItsOwner()
