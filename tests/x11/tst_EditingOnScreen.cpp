@@ -7,35 +7,14 @@
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
 #include "tradeConfig/platform/HostPlatform.h"
+#include "x11/Xdotool.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMessageBox>
-#include <QProcess>
 
 namespace {
-
-constexpr int patience = 10000;
-
-void xdotool(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral("xdotool"), arguments);
-    QVERIFY(process.waitForFinished(patience));
-    QCOMPARE(process.exitCode(), 0);
-}
-
-QStringList clickAt(const QWidget& widget, const QPoint& position)
-{
-    const QPoint at = widget.mapToGlobal(position);
-    return {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
-            QStringLiteral("click"), QStringLiteral("1")};
-}
-
-void click(const QWidget& widget) { xdotool(clickAt(widget, widget.rect().center())); }
-
-void press(const QStringList& keys) { xdotool(QStringList{QStringLiteral("key")} + keys); }
 
 /// Clicks the button of the next message box with the real mouse, as often as it takes. The box
 /// runs an event loop of its own, so this happens beside the code that waits for it.
@@ -96,8 +75,7 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
     dialog.ui.stackedWidget_trade->setCurrentWidget(dialog.ui.page_8);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"),
-             QString::number(dialog.winId())});
+    activate(dialog);
     QTRY_VERIFY_WITH_TIMEOUT(dialog.isActiveWindow(), patience);
     const auto chooseGroup = [&dialog](int index) {
         xdotool(clickAt(*dialog.switchBar, QPoint(219 * index + 110, 30)));
