@@ -1,5 +1,6 @@
 #include "tradeConfig/TableLineEdit.h"
 
+#include <QContextMenuEvent>
 #include <QDebug>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -30,6 +31,13 @@ bool CTableLineEdit::event(QEvent* event)
         return true;
     }
     return QLineEdit::event(event);
+}
+
+void CTableLineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The window system asks for a menu before it sends the Menu key: the menu would take the key.
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        QLineEdit::contextMenuEvent(event);
 }
 
 void CTableLineEdit::keyPressEvent(QKeyEvent* event)

@@ -86,6 +86,8 @@ private Q_SLOTS:
     void noPaste();
     void noDrop();
     void noMiddleButton();
+    void noMenuByKey();
+    void menuByMouse();
     void editFinishedReportsNothing();
     void editFinishedIsConnected();
 };
@@ -293,6 +295,19 @@ void tst_TableLineEdit::unknownKey()
     QTest::keyClick(&editor, Qt::Key_A);
     qInstallMessageHandler(previous);
     QCOMPARE(seen, QStringList());
+}
+
+// A key that the platform has no code for is no unknown key: its sequence is empty.
+void tst_TableLineEdit::keyZero()
+{
+    Host host;
+    host.editor->setText(QStringLiteral("F8"));
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier);
+    QCoreApplication::sendEvent(host.editor, &press);
+    QCOMPARE(host.editor->text(), QString());
+    QCOMPARE(reported.size(), 1);
+    QCOMPARE(reported.constFirst(), QVariantList({1, QString()}));
 }
 
 void tst_TableLineEdit::theTextOfTheEventDoesNotMatter()
@@ -513,6 +528,42 @@ void tst_TableLineEdit::noMiddleButton()
     QCOMPARE(host.editor->text(), QString());
 }
 
+// The window system asks for a menu before it sends the Menu key.
+void tst_TableLineEdit::noMenuByKey()
+{
+    Host host;
+    QVERIFY(host.active);
+    host.table->setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy asked(host.table, &QWidget::customContextMenuRequested);
+    const QPoint middle = host.editor->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, middle, host.editor->mapToGlobal(middle));
+    QCoreApplication::sendEvent(host.editor, &event);
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(asked.size(), 0);
+    QTest::keyClick(host.windowHandle(), Qt::Key_Menu, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+Shift+Menu"));
+}
+
+void tst_TableLineEdit::menuByMouse()
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
+    Host host;
+    QVERIFY(host.active);
+    host.editor->setText(QStringLiteral("F8"));
+    const QPoint middle = host.editor->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, middle, host.editor->mapToGlobal(middle));
+    QCoreApplication::sendEvent(host.editor, &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    for (QAction* const action : menu->actions())
+        action->trigger();
+    menu->close();
+    QCOMPARE(host.editor->text(), QStringLiteral("F8"));
+    // Select all, then copy, which is what such a menu is for.
+    host.editor->copy();
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("F8"));
+}
+
 void tst_TableLineEdit::editFinishedReportsNothing()
 {
     Host host;
@@ -525,19 +576,6 @@ void tst_TableLineEdit::editFinishedReportsNothing()
     QVERIFY(!host.editor->hasFocus());
     QCOMPARE(reported.size(), 0);
     QCOMPARE(host.editor->text(), QStringLiteral("F8"));
-}
-
-// A key that the platform has no code for is no unknown key: its sequence is empty.
-void tst_TableLineEdit::keyZero()
-{
-    Host host;
-    host.editor->setText(QStringLiteral("F8"));
-    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
-    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier);
-    QCoreApplication::sendEvent(host.editor, &press);
-    QCOMPARE(host.editor->text(), QString());
-    QCOMPARE(reported.size(), 1);
-    QCOMPARE(reported.constFirst(), QVariantList({1, QString()}));
 }
 
 void tst_TableLineEdit::editFinishedIsConnected()
