@@ -5,6 +5,19 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 
+namespace {
+
+// A held key goes on repeating when Shift comes or goes, as another Qt::Key. The window system's
+// codes stay, but not every system tells both.
+quint32 physicalKey(const QKeyEvent& event)
+{
+    if (event.nativeScanCode() != 0)
+        return event.nativeScanCode();
+    return event.nativeVirtualKey() != 0 ? event.nativeVirtualKey() : quint32(event.key());
+}
+
+} // namespace
+
 CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
     : QLineEdit(parent)
     , row(tableRow)
@@ -40,6 +53,12 @@ void CTableLineEdit::contextMenuEvent(QContextMenuEvent* event)
         QLineEdit::contextMenuEvent(event);
 }
 
+void CTableLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    m_pressedHere.clear();
+    QLineEdit::focusOutEvent(event);
+}
+
 void CTableLineEdit::keyPressEvent(QKeyEvent* event)
 {
     int key = event->key();
@@ -48,6 +67,10 @@ void CTableLineEdit::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_Meta)
+        return;
+    if (!event->isAutoRepeat())
+        m_pressedHere.insert(physicalKey(*event));
+    else if (!m_pressedHere.contains(physicalKey(*event)))
         return;
 
     const Qt::KeyboardModifiers modifiers = event->modifiers();

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QSet>
 
 /**
  * The key-capture cell of a hotkey table.
  *
  * Each key press, with the modifiers held, becomes the native-format text of a one-chord key
  * sequence, shown at once. Nothing else the user does puts text into the cell. Modifiers alone,
- * chords with Meta and unknown keys change nothing; Tab and Shift+Tab move the focus as ever.
+ * chords with Meta, unknown keys and keys held since before the cell had the focus change nothing;
+ * Tab and Shift+Tab move the focus as ever.
  */
 class CTableLineEdit : public QLineEdit {
     Q_OBJECT
@@ -21,13 +23,18 @@ public Q_SLOTS:
     void EditFinished();
 
 Q_SIGNALS:
-    /// After every accepted key press, also when it repeats the key already shown.
+    /// After every accepted key press, also when it repeats the key already shown and each time a
+    /// held key repeats itself.
     void signal_editFinished(int row, QString text);
 
 protected:
     bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
     int row;
+
+private:
+    QSet<quint32> m_pressedHere; ///< physical keys that went down while the cell had the focus
 };

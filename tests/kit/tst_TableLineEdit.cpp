@@ -51,6 +51,17 @@ public:
     int ends = 0;
 };
 
+enum class Strike { Press, Repeat, Release };
+
+// What a window system sends; most of the codes stay zero in events that are made by hand.
+void strike(QWidget* widget, Strike how, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
+            quint32 scanCode = 0, quint32 virtualKey = 0)
+{
+    QKeyEvent event(how == Strike::Release ? QEvent::KeyRelease : QEvent::KeyPress, key, modifiers,
+                    scanCode, virtualKey, 0, QString(), how == Strike::Repeat);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 } // namespace
 
 class tst_TableLineEdit : public QObject {
@@ -72,6 +83,12 @@ private Q_SLOTS:
     void keyZero();
     void theTextOfTheEventDoesNotMatter();
     void repeatedPress();
+    void heldKeyRepeatsItself();
+    void heldKeyChangesWithShift_data();
+    void heldKeyChangesWithShift();
+    void keyHeldSinceElsewhere_data();
+    void keyHeldSinceElsewhere();
+    void keyHeldWhileTheFocusLeft();
     void disabledTakesNoKeys();
 
     void windowShortcuts_data();
@@ -331,6 +348,108 @@ void tst_TableLineEdit::repeatedPress()
     // One chord only, never a sequence.
     QTest::keyClick(&editor, Qt::Key_B, Qt::ControlModifier);
     QCOMPARE(editor.text(), QStringLiteral("Ctrl+B"));
+}
+
+void tst_TableLineEdit::heldKeyRepeatsItself()
+{
+    CTableLineEdit editor(4);
+    const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
+    strike(&editor, Strike::Press, Qt::Key_A, Qt::ControlModifier);
+    for (int repeats = 1; repeats <= 3; ++repeats) {
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_A, Qt::ControlModifier, QString(), true);
+        QCoreApplication::sendEvent(&editor, &release);
+        strike(&editor, Strike::Repeat, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(reported.size(), 1 + repeats);
+        QCOMPARE(reported.last(), QVariantList({4, QStringLiteral("Ctrl+A")}));
+    }
+    // A key that does not repeat itself, pressed meanwhile, does not end it.
+    strike(&editor, Strike::Press, Qt::Key_CapsLock, Qt::ControlModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Ctrl+CapsLock"));
+    strike(&editor, Strike::Repeat, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(editor.text(), QStringLiteral("Ctrl+A"));
+}
+
+void tst_TableLineEdit::heldKeyChangesWithShift_data()
+{
+    QTest::addColumn<int>("scanCode");
+    QTest::addColumn<int>("virtualKeyFirst");
+    QTest::addColumn<int>("virtualKeyThen");
+    QTest::newRow("X11") << 10 << int('1') << int('!');
+    QTest::newRow("macOS") << 0 << 18 << 18;
+}
+
+void tst_TableLineEdit::heldKeyChangesWithShift()
+{
+    QFETCH(int, scanCode);
+    QFETCH(int, virtualKeyFirst);
+    QFETCH(int, virtualKeyThen);
+    CTableLineEdit editor(0);
+    strike(&editor, Strike::Press, Qt::Key_1, Qt::NoModifier, quint32(scanCode),
+           quint32(virtualKeyFirst));
+    QCOMPARE(editor.text(), QStringLiteral("1"));
+    strike(&editor, Strike::Press, Qt::Key_Shift, Qt::ShiftModifier);
+    strike(&editor, Strike::Repeat, Qt::Key_Exclam, Qt::ShiftModifier, quint32(scanCode),
+           quint32(virtualKeyThen));
+    QCOMPARE(editor.text(), QStringLiteral("Shift+!"));
+}
+
+void tst_TableLineEdit::keyHeldSinceElsewhere_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("A") << int(Qt::Key_A) << 0;
+    QTest::newRow("F8") << int(Qt::Key_F8) << 0;
+    QTest::newRow("Ctrl+S") << int(Qt::Key_S) << int(Qt::ControlModifier);
+    QTest::newRow("Return") << int(Qt::Key_Return) << 0;
+    QTest::newRow("Down") << int(Qt::Key_Down) << 0;
+    QTest::newRow("Menu") << int(Qt::Key_Menu) << 0;
+}
+
+void tst_TableLineEdit::keyHeldSinceElsewhere()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    const Qt::KeyboardModifiers held(modifiers);
+    Host host;
+    QVERIFY(host.active);
+    host.editor->setText(QStringLiteral("F9"));
+    host.other->setFocus();
+    const QSignalSpy reported(host.editor, &CTableLineEdit::signal_editFinished);
+    strike(host.other, Strike::Press, Qt::Key(key), held);
+    host.editor->setFocus();
+    for (int repeats = 0; repeats < 3; ++repeats)
+        strike(host.editor, Strike::Repeat, Qt::Key(key), held);
+    // Neither a modifier nor another key makes it a key of this cell.
+    strike(host.editor, Strike::Press, Qt::Key_Shift, held | Qt::ShiftModifier);
+    strike(host.editor, Strike::Repeat, Qt::Key(key), held | Qt::ShiftModifier);
+    QCOMPARE(host.editor->text(), QStringLiteral("F9"));
+    QCOMPARE(reported.size(), 0);
+    strike(host.editor, Strike::Press, Qt::Key_B);
+    strike(host.editor, Strike::Repeat, Qt::Key(key), held);
+    QCOMPARE(host.editor->text(), QStringLiteral("B"));
+    QCOMPARE(reported.size(), 1);
+    // The cell keeps the repeats for itself all the same.
+    QCOMPARE(host.table->currentRow(), 1);
+    QCOMPARE(host.ends, 0);
+
+    strike(host.editor, Strike::Release, Qt::Key(key), held);
+    strike(host.editor, Strike::Press, Qt::Key(key), held);
+    QCOMPARE(host.editor->text(), QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(reported.size(), 2);
+}
+
+void tst_TableLineEdit::keyHeldWhileTheFocusLeft()
+{
+    Host host;
+    QVERIFY(host.active);
+    strike(host.editor, Strike::Press, Qt::Key_A);
+    host.other->setFocus();
+    strike(host.other, Strike::Release, Qt::Key_A);
+    strike(host.other, Strike::Press, Qt::Key_A);
+    host.editor->setFocus();
+    host.editor->setText(QStringLiteral("F9"));
+    strike(host.editor, Strike::Repeat, Qt::Key_A);
+    QCOMPARE(host.editor->text(), QStringLiteral("F9"));
 }
 
 void tst_TableLineEdit::disabledTakesNoKeys()

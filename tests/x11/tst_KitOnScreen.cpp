@@ -34,6 +34,29 @@ public:
     bool exposed = false;
 };
 
+/// A key that the user holds down.
+class Held {
+public:
+    explicit Held(const QString& key)
+        : m_key(key)
+    {
+        xdotool({QStringLiteral("keydown"), m_key});
+    }
+    ~Held() { release(); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+    void release()
+    {
+        if (!m_key.isEmpty())
+            xdotool({QStringLiteral("keyup"), m_key});
+        m_key.clear();
+    }
+
+private:
+    QString m_key;
+};
+
 } // namespace
 
 /// The widget kit under the keys and the mouse of a real window system.
@@ -45,6 +68,8 @@ private Q_SLOTS:
     void keysThatOthersWouldTake_data();
     void keysThatOthersWouldTake();
     void rightClickPastesNothing();
+    void keyHeldInTheCell();
+    void keyHeldSinceElsewhere();
 };
 
 void tst_KitOnScreen::initTestCase()
@@ -110,6 +135,46 @@ void tst_KitOnScreen::rightClickPastesNothing()
     press({QStringLiteral("p"), QStringLiteral("Return"), QStringLiteral("Escape")});
     QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activePopupWidget(), patience);
     QCOMPARE(window.cell->text(), QStringLiteral("F8"));
+}
+
+void tst_KitOnScreen::keyHeldInTheCell()
+{
+    Cells window;
+    QVERIFY(window.exposed);
+    QTRY_VERIFY_WITH_TIMEOUT(window.cell->hasFocus(), patience);
+    const QSignalSpy reported(window.cell, &CTableLineEdit::signal_editFinished);
+    Held one(QStringLiteral("1"));
+    QTRY_VERIFY_WITH_TIMEOUT(reported.size() >= 3, patience);
+    QCOMPARE(window.cell->text(), QStringLiteral("1"));
+    // The same key goes on, as another character.
+    const Held shift(QStringLiteral("Shift_L"));
+    QTRY_COMPARE_WITH_TIMEOUT(window.cell->text(), QStringLiteral("Shift+!"), patience);
+}
+
+void tst_KitOnScreen::keyHeldSinceElsewhere()
+{
+    Cells window;
+    QVERIFY(window.exposed);
+    window.cell->setText(QStringLiteral("F8"));
+    window.field->setFocus();
+    QTRY_VERIFY_WITH_TIMEOUT(window.field->hasFocus(), patience);
+    const QSignalSpy reported(window.cell, &CTableLineEdit::signal_editFinished);
+    Held held(QStringLiteral("q"));
+    QTRY_VERIFY_WITH_TIMEOUT(window.field->text().size() >= 3, patience);
+    window.cell->setFocus();
+    // It repeats itself every 40 ms.
+    QTest::qWait(200);
+    {
+        const Held shift(QStringLiteral("Shift_L"));
+        QTest::qWait(200);
+    }
+    QCOMPARE(window.cell->text(), QStringLiteral("F8"));
+    QCOMPARE(reported.size(), 0);
+    // Pressed anew it counts.
+    held.release();
+    press({QStringLiteral("q")});
+    QTRY_COMPARE_WITH_TIMEOUT(window.cell->text(), QStringLiteral("Q"), patience);
+    QCOMPARE(reported.size(), 1);
 }
 
 TRADECONFIG_TEST_MAIN(tst_KitOnScreen)
