@@ -1,5 +1,7 @@
 #include "tradeConfig/TableLineEdit.h"
 
+#include "tradeConfig/TableLineEditAccessible.h"
+
 #include <QContextMenuEvent>
 #include <QDebug>
 #include <QKeyEvent>
@@ -28,6 +30,7 @@ CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
     // Shuts out input methods, paste, drops and the middle button; setText still works.
     setReadOnly(true);
     connect(this, &QLineEdit::editingFinished, this, &CTableLineEdit::EditFinished);
+    TableLineEditAccessible::install();
 }
 
 void CTableLineEdit::EditFinished() { }

@@ -3,6 +3,7 @@
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDialog>
 #include <QDropEvent>
@@ -50,6 +51,11 @@ public:
     int buttonClicks = 0;
     int ends = 0;
 };
+
+QAccessibleInterface* accessible(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
 
 enum class Strike { Press, Repeat, Release };
 
@@ -105,6 +111,11 @@ private Q_SLOTS:
     void noMiddleButton();
     void noMenuByKey();
     void menuByMouse();
+    void isAReadOnlyTextToAssistiveTechnology();
+    void assistiveTechnologyCannotType_data();
+    void assistiveTechnologyCannotType();
+    void assistiveTechnologyReadsTheText();
+    void assistiveTechnologySelectsText();
     void editFinishedReportsNothing();
     void editFinishedIsConnected();
 };
@@ -681,6 +692,131 @@ void tst_TableLineEdit::menuByMouse()
     // Select all, then copy, which is what such a menu is for.
     host.editor->copy();
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("F8"));
+}
+
+void tst_TableLineEdit::isAReadOnlyTextToAssistiveTechnology()
+{
+    class Derived : public CTableLineEdit {
+    public:
+        using CTableLineEdit::CTableLineEdit;
+    };
+    Host host;
+    QVERIFY(host.active);
+    const Derived derived(0);
+    for (CTableLineEdit* const cell :
+         {host.editor, static_cast<CTableLineEdit*>(const_cast<Derived*>(&derived))}) {
+        QAccessibleInterface* const seen = accessible(cell);
+        QVERIFY(seen);
+        QCOMPARE(seen->object(), cell);
+        QCOMPARE(seen->role(), QAccessible::EditableText);
+        QVERIFY(seen->state().readOnly);
+        QVERIFY(!seen->state().editable);
+        QVERIFY(seen->state().focusable);
+        QCOMPARE(bool(seen->state().focused), cell == host.editor);
+        QCOMPARE(seen->text(QAccessible::Value), QString());
+        QTest::keyClick(cell, Qt::Key_F7, Qt::ControlModifier);
+        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("Ctrl+F7"));
+        cell->setText(QStringLiteral("空"));
+        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("空"));
+        cell->setAccessibleName(QStringLiteral("买入股票"));
+        QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("买入股票"));
+        cell->setEnabled(false);
+        QVERIFY(seen->state().disabled);
+    }
+    // An ordinary line edit is left to the toolkit.
+    QVERIFY(accessible(host.other)->state().editable);
+}
+
+void tst_TableLineEdit::assistiveTechnologyCannotType_data()
+{
+    QTest::addColumn<QString>("text");
+    // Digits would pass the validator that the dialog gives to every line edit.
+    for (const char* const text : {"5", "100", "x", "F7", ""})
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void tst_TableLineEdit::assistiveTechnologyCannotType()
+{
+    QFETCH(QString, text);
+    FakeTrade trade;
+    CTradeConfigWidget dialog(&trade);
+    auto* const cell
+        = qobject_cast<CTableLineEdit*>(dialog.ui.tableWidget_shortcut->cellWidget(3, 1));
+    cell->setText(QStringLiteral("F8"));
+    const QSignalSpy reported(cell, &CTableLineEdit::signal_editFinished);
+    QAccessibleInterface* const seen = accessible(cell);
+    QVERIFY(!seen->editableTextInterface());
+    QVERIFY(!seen->valueInterface());
+    for (const auto what : {QAccessible::Value, QAccessible::Name, QAccessible::Description})
+        seen->setText(what, text);
+    const QStringList actions = seen->actionInterface()->actionNames();
+    for (const QString& action : actions)
+        seen->actionInterface()->doAction(action);
+    QCOMPARE(cell->text(), QStringLiteral("F8"));
+    QCOMPARE(reported.size(), 0);
+}
+
+void tst_TableLineEdit::assistiveTechnologyReadsTheText()
+{
+    Host host;
+    QVERIFY(host.active);
+    host.editor->setText(QStringLiteral("Ctrl+W"));
+    QAccessibleTextInterface* const read = accessible(host.editor)->textInterface();
+    QVERIFY(read);
+    QCOMPARE(read->characterCount(), 6);
+    QCOMPARE(read->text(0, 6), QStringLiteral("Ctrl+W"));
+    QCOMPARE(read->text(5, 6), QStringLiteral("W"));
+    int start = -1;
+    int end = -1;
+    QCOMPARE(read->textAtOffset(2, QAccessible::CharBoundary, &start, &end), QStringLiteral("r"));
+    QCOMPARE(start, 2);
+    QCOMPARE(end, 3);
+    QCOMPARE(read->attributes(3, &start, &end), QString());
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 6);
+
+    // Side by side, each as wide as it is drawn, all inside the cell; wherever the cursor stands.
+    const QRect cell(host.editor->mapToGlobal(QPoint(0, 0)), host.editor->size());
+    for (const int cursor : {0, 3, 6}) {
+        read->setCursorPosition(cursor);
+        QCOMPARE(read->cursorPosition(), cursor);
+        for (int offset = 0; offset < 6; ++offset) {
+            const QRect place = read->characterRect(offset);
+            QVERIFY(cell.contains(place));
+            QVERIFY(place.width() > 1);
+            if (offset > 0)
+                QCOMPARE(place.left(), read->characterRect(offset - 1).right() + 1);
+            QCOMPARE(read->offsetAtPoint(place.topLeft() + QPoint(1, place.height() / 2)), offset);
+        }
+    }
+    read->scrollToSubstring(2, 4);
+    QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+W"));
+}
+
+void tst_TableLineEdit::assistiveTechnologySelectsText()
+{
+    CTableLineEdit editor(0);
+    editor.setText(QStringLiteral("Ctrl+W"));
+    QAccessibleTextInterface* const read = accessible(&editor)->textInterface();
+    int start = -1;
+    int end = -1;
+    QCOMPARE(read->selectionCount(), 0);
+    read->selection(0, &start, &end);
+    QCOMPARE(start, 0);
+    QCOMPARE(end, 0);
+    read->addSelection(1, 4);
+    QCOMPARE(read->selectionCount(), 1);
+    read->selection(0, &start, &end);
+    QCOMPARE(start, 1);
+    QCOMPARE(end, 4);
+    read->setSelection(1, 0, 2); // there is one selection only
+    read->removeSelection(1);
+    QCOMPARE(editor.selectedText(), QStringLiteral("trl"));
+    read->setSelection(0, 4, 6);
+    QCOMPARE(editor.selectedText(), QStringLiteral("+W"));
+    read->removeSelection(0);
+    QCOMPARE(editor.selectedText(), QString());
+    QCOMPARE(editor.text(), QStringLiteral("Ctrl+W"));
 }
 
 void tst_TableLineEdit::editFinishedReportsNothing()

@@ -1,0 +1,107 @@
+#include "tradeConfig/TableLineEditAccessible.h"
+
+#include "tradeConfig/PartsAccessible.h"
+#include "tradeConfig/TableLineEdit.h"
+
+namespace {
+
+QAccessibleInterface* create(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("CTableLineEdit"))
+        return nullptr;
+    auto* const cell = qobject_cast<CTableLineEdit*>(object);
+    return cell ? new TableLineEditAccessible(cell) : nullptr;
+}
+
+} // namespace
+
+void TableLineEditAccessible::install() { static const AccessibleFactory factory(&create); }
+
+TableLineEditAccessible::TableLineEditAccessible(QLineEdit* cell)
+    : QAccessibleWidget(cell, QAccessible::EditableText)
+{
+}
+
+QLineEdit* TableLineEditAccessible::cell() const { return static_cast<QLineEdit*>(widget()); }
+
+QAccessible::State TableLineEditAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    state.selectableText = true;
+    return state;
+}
+
+QString TableLineEditAccessible::text(QAccessible::Text which) const
+{
+    return which == QAccessible::Value ? cell()->text() : QAccessibleWidget::text(which);
+}
+
+void* TableLineEditAccessible::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
+                                              : QAccessibleWidget::interface_cast(type);
+}
+
+void TableLineEditAccessible::selection(int index, int* start, int* end) const
+{
+    const bool known = index == 0 && cell()->hasSelectedText();
+    *start = known ? cell()->selectionStart() : 0;
+    *end = known ? cell()->selectionEnd() : 0;
+}
+
+int TableLineEditAccessible::selectionCount() const { return cell()->hasSelectedText() ? 1 : 0; }
+
+void TableLineEditAccessible::addSelection(int start, int end) { setSelection(0, start, end); }
+
+void TableLineEditAccessible::removeSelection(int index)
+{
+    if (index == 0)
+        cell()->deselect();
+}
+
+void TableLineEditAccessible::setSelection(int index, int start, int end)
+{
+    if (index == 0)
+        cell()->setSelection(start, end - start);
+}
+
+int TableLineEditAccessible::cursorPosition() const { return cell()->cursorPosition(); }
+
+void TableLineEditAccessible::setCursorPosition(int position)
+{
+    cell()->setCursorPosition(position);
+}
+
+QString TableLineEditAccessible::text(int start, int end) const
+{
+    return cell()->text().mid(start, end - start);
+}
+
+int TableLineEditAccessible::characterCount() const { return cell()->text().size(); }
+
+QRect TableLineEditAccessible::characterRect(int offset) const
+{
+    // The cursor is the one place in the text that a line edit tells.
+    const QRect cursor = cell()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    const QString shown = cell()->text();
+    const QFontMetrics metrics = cell()->fontMetrics();
+    const auto reach = [&](int position) { return metrics.horizontalAdvance(shown, position); };
+    const int x = cursor.center().x() + reach(offset) - reach(cell()->cursorPosition());
+    return QRect(cell()->mapToGlobal(QPoint(x, cursor.y())),
+                 QSize(reach(offset + 1) - reach(offset), cursor.height()));
+}
+
+int TableLineEditAccessible::offsetAtPoint(const QPoint& point) const
+{
+    return cell()->cursorPositionAt(cell()->mapFromGlobal(point));
+}
+
+void TableLineEditAccessible::scrollToSubstring(int start, int) { setCursorPosition(start); }
+
+QString TableLineEditAccessible::attributes(int, int* start, int* end) const
+{
+    *start = 0;
+    *end = characterCount();
+    return QString();
+}
