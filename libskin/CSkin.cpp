@@ -1,6 +1,7 @@
 #include "tradeConfig/skin/CSkin.h"
 
 #include "libskin/ActiveSkin.h"
+#include "libskin/WidgetPixels.h"
 
 #include <QFontMetricsF>
 #include <QPaintEngine>
@@ -140,8 +141,14 @@ void CSkin::fillRect(QPainter& painter, QRectF rect, QString colorKey)
 void CSkin::drawRect(QPainter& painter, QRectF rect, QString colorKey, Qt::PenStyle penStyle,
                      double penWidth)
 {
-    const Bands bands
-        = penStyle == Qt::SolidLine && penWidth == 1.0 ? bandsOf(painter, rect) : Bands();
+    const bool plain = penStyle == Qt::SolidLine && penWidth == 1.0;
+    const WidgetPixels pixels(painter);
+    if (plain && pixels.isValid()) {
+        if (const QColor* const colour = active().colour(colorKey))
+            pixels.drawOutline(painter, rect, *colour);
+        return;
+    }
+    const Bands bands = plain ? bandsOf(painter, rect) : Bands();
     if (bands.scale != 0) {
         if (const QColor* const colour = active().colour(colorKey))
             fillBands(painter, bands, *colour);
@@ -157,6 +164,13 @@ void CSkin::drawRect(QPainter& painter, QRectF rect, QString colorKey, Qt::PenSt
 void CSkin::drawLine(QPainter& painter, QString colorKey, QPointF from, QPointF to,
                      Qt::PenStyle penStyle, double penWidth)
 {
+    const bool straight = from.x() == to.x() || from.y() == to.y();
+    const WidgetPixels pixels(painter);
+    if (penStyle == Qt::SolidLine && penWidth == 1.0 && straight && pixels.isValid()) {
+        if (const QColor* const colour = active().colour(colorKey))
+            pixels.drawLine(painter, from, to, *colour);
+        return;
+    }
     const QPen* const pen = active().pen(colorKey, penStyle, penWidth);
     if (!pen)
         return;
