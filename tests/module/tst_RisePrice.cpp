@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 #include "tradeConfig/TipLabel.h"
 
+#include <QAccessible>
 #include <QIntValidator>
 
 namespace {
@@ -88,6 +89,8 @@ private Q_SLOTS:
     void leavingUnedited();
     void emptyIsZero_data();
     void emptyIsZero();
+    void hasNoContextMenu_data();
+    void hasNoContextMenu();
     void popupEndsTheEditing_data();
     void popupEndsTheEditing();
     void choicesAreNotCleared();
@@ -319,22 +322,98 @@ void tst_RisePrice::emptyIsZero()
     QCOMPARE(rise.choices[2], 0);
 }
 
-void tst_RisePrice::popupEndsTheEditing_data() { bothPrices(); }
+void tst_RisePrice::hasNoContextMenu_data()
+{
+    QTest::addColumn<bool>("sell");
+    QTest::addColumn<QString>("how");
+    for (const bool sell : {false, true}) {
+        for (const char* const how :
+             {"right button", "Menu key", "sent to the combo", "sent to the editor"})
+            QTest::addRow("%s, %s", sell ? "sell" : "buy", how) << sell << QString::fromLatin1(how);
+    }
+}
+
+// A menu would take the focus, which ends the editing and with it the editor that shows the menu.
+void tst_RisePrice::hasNoContextMenu()
+{
+    QFETCH(bool, sell);
+    QFETCH(QString, how);
+    const Rise rise(sell);
+    rise.begin();
+    rise.type(QStringLiteral("47"));
+    const QPointer<QLineEdit> editor = rise.combo.lineEdit();
+    QCOMPARE(rise.combo.contextMenuPolicy(), Qt::NoContextMenu);
+    QCOMPARE(editor->contextMenuPolicy(), Qt::NoContextMenu);
+    QWidget& window = *rise;
+    const QPoint place = editor->mapTo(&window, editor->rect().center());
+    if (how == QStringLiteral("right button")) {
+        QTest::mouseClick(window.windowHandle(), Qt::RightButton, Qt::NoModifier, place);
+    } else if (how == QStringLiteral("Menu key")) {
+        // What a window gets from the system beside the key.
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, window.mapToGlobal(place));
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    } else {
+        QContextMenuEvent event(QContextMenuEvent::Other, QPoint(3, 3), window.mapToGlobal(place));
+        QCoreApplication::sendEvent(how == QStringLiteral("sent to the editor")
+                                        ? static_cast<QWidget*>(editor)
+                                        : &rise.combo,
+                                    &event);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(editor);
+    QVERIFY(rise.combo.isEditable());
+    QVERIFY(rise.combo.hasFocus());
+
+    QTest::keyClick(&rise.combo, Qt::Key_Backspace);
+    rise.leaveField();
+    QCOMPARE(rise.items(), QStringList({QStringLiteral("4"), rise.second, rise.third}));
+}
+
+void tst_RisePrice::popupEndsTheEditing_data()
+{
+    QTest::addColumn<bool>("sell");
+    QTest::addColumn<QString>("how");
+    for (const bool sell : {false, true}) {
+        for (const char* const how : {"called", "arrow", "F4", "Alt+Down", "assistive technology"})
+            QTest::addRow("%s, %s", sell ? "sell" : "buy", how) << sell << QString::fromLatin1(how);
+    }
+}
 
 void tst_RisePrice::popupEndsTheEditing()
 {
     QFETCH(bool, sell);
+    QFETCH(QString, how);
     const Rise rise(sell);
     rise.begin();
     rise.type(QStringLiteral("47"));
-    rise.combo.showPopup();
+    QWidget& window = *rise;
+    if (how == QStringLiteral("called")) {
+        rise.combo.showPopup();
+    } else if (how == QStringLiteral("arrow")) {
+        const QPoint arrow(rise.combo.width() - 5, rise.combo.height() / 2);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          rise.combo.mapTo(&window, arrow));
+    } else if (how == QStringLiteral("F4")) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_F4);
+    } else if (how == QStringLiteral("Alt+Down")) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Down, Qt::AltModifier);
+    } else {
+        QAccessible::queryAccessibleInterface(&rise.combo)
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::showMenuAction());
+    }
+    QVERIFY(rise.combo.view()->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+    QVERIFY(!rise.combo.isEditable());
     rise.combo.hidePopup();
     rise.leaveField();
     QVERIFY(!rise.combo.isEditable());
     QVERIFY(rise.button.isEnabled());
     QCOMPARE(rise.items(), QStringList({QStringLiteral("47"), rise.second, rise.third}));
+    QCOMPARE(rise.combo.currentIndex(), 0);
 }
 
 void tst_RisePrice::choicesAreNotCleared()

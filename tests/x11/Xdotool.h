@@ -16,11 +16,12 @@ inline void xdotool(const QStringList& arguments)
     QCOMPARE(process.exitCode(), 0);
 }
 
-inline QStringList clickAt(const QWidget& widget, const QPoint& position)
+/// @p button as xdotool counts: 1 left, 2 middle, 3 right.
+inline QStringList clickAt(const QWidget& widget, const QPoint& position, int button = 1)
 {
     const QPoint at = widget.mapToGlobal(position);
     return {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y()),
-            QStringLiteral("click"), QStringLiteral("1")};
+            QStringLiteral("click"), QString::number(button)};
 }
 
 inline void click(const QWidget& widget) { xdotool(clickAt(widget, widget.rect().center())); }

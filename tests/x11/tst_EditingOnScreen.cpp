@@ -1,6 +1,7 @@
 #include "client/DataDirectory.h"
 #include "client/TradeCore.h"
 #include "support/Files.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/SwitchEx.h"
@@ -13,6 +14,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace {
 
@@ -44,6 +46,30 @@ private:
     QString m_text;
 };
 
+/// The buy protection price on the screen, "47" typed in place of "1" and still being edited.
+struct PriceEditing {
+    PriceEditing()
+    {
+        // The page is not in the navigation list.
+        dialog->ui.stackedWidget_trade->setCurrentWidget(dialog->ui.page_9);
+        dialog->SetCurrentIndex(1);
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+        activate(*dialog);
+        QTRY_VERIFY_WITH_TIMEOUT(dialog->isActiveWindow(), patience);
+        click(*dialog->ui.pushButton_kc_buyRise);
+        combo = dialog->ui.comboBox_trade_kc_buyRise;
+        QTRY_VERIFY_WITH_TIMEOUT(combo->isEditable() && combo->hasFocus(), patience);
+        editor = combo->lineEdit();
+        press({QStringLiteral("ctrl+a"), QStringLiteral("4"), QStringLiteral("7")});
+        QTRY_COMPARE_WITH_TIMEOUT(dialog->starBuyRiseText, QStringLiteral("47"), patience);
+    }
+
+    TestDialog dialog{[](FakeTrade& trade) { trade.parm().starBuyRiseChoices[0] = 1; }};
+    QComboBox* combo = nullptr;
+    QPointer<QLineEdit> editor;
+};
+
 } // namespace
 
 /// A user at the screen, with keys and mouse of a real window system.
@@ -52,6 +78,8 @@ class tst_EditingOnScreen : public QObject {
 
 private Q_SLOTS:
     void editsHotkeysAndQuantities();
+    void protectionPriceHasNoMenu_data();
+    void protectionPriceHasNoMenu();
 };
 
 void tst_EditingOnScreen::editsHotkeysAndQuantities()
@@ -160,6 +188,32 @@ void tst_EditingOnScreen::editsHotkeysAndQuantities()
     QCOMPARE(keys.at(1).toString(), QStringLiteral("Ctrl+S"));
     QCOMPARE(record.value(QStringLiteral("splitMinQty")).toInt(), 300);
     QCOMPARE(record.value(QStringLiteral("splitMaxQty")).toInt(), 1000);
+}
+
+void tst_EditingOnScreen::protectionPriceHasNoMenu_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("right button") << false;
+    QTest::newRow("Menu key") << true;
+}
+
+void tst_EditingOnScreen::protectionPriceHasNoMenu()
+{
+    QFETCH(bool, byKey);
+    const PriceEditing editing;
+    QVERIFY(editing.editor);
+    if (byKey)
+        press({QStringLiteral("Menu")});
+    else
+        xdotool(clickAt(*editing.editor, editing.editor->rect().center(), 3));
+    // A key after it, typed into the same editor.
+    press({QStringLiteral("End"), QStringLiteral("BackSpace")});
+    QTRY_COMPARE_WITH_TIMEOUT(editing.dialog->starBuyRiseText, QStringLiteral("4"), patience);
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(editing.editor);
+    press({QStringLiteral("Tab")});
+    QTRY_VERIFY_WITH_TIMEOUT(!editing.combo->isEditable(), patience);
+    QCOMPARE(editing.combo->itemText(0), QStringLiteral("4"));
 }
 
 TRADECONFIG_TEST_MAIN(tst_EditingOnScreen)

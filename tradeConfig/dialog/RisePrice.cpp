@@ -42,6 +42,8 @@ QString RisePrice::beginEdit(const Form& ui, QObject* owner) const
     edited.setCompleter(nullptr);
     // Nor must Return move to another entry that already holds the percentage typed.
     QObject::disconnect(edited.lineEdit(), &QLineEdit::editingFinished, &edited, nullptr);
+    // A menu takes the focus, which ends the editing, while the combo box still uses its editor.
+    edited.setContextMenuPolicy(Qt::NoContextMenu);
     // Before the button is disabled: a disabled button hands its focus to the next widget, and
     // a field that is only passed by would be checked when it loses it again.
     edited.setFocus();
