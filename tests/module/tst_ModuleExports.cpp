@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QSettings>
 
 #include <memory>
 
@@ -29,12 +30,34 @@ class tst_ModuleExports : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void settingsOutliveTheLibrary(); // first: the others leave the library loaded
     void exactlySevenSymbols();
     void listForTheLinkerOfMacOs();
     void loadsAndMakesTheDialog();
     void namesAreUnmangled_data();
     void namesAreUnmangled();
 };
+
+// The toolkit keeps what it knows of a settings file as long as the process lives.
+void tst_ModuleExports::settingsOutliveTheLibrary()
+{
+    QLibrary module(modulePath());
+    const auto home = reinterpret_cast<const char* (*)()>(module.resolve("ApplicationHomePath"));
+    const QString file = QString::fromUtf8(home()) + QStringLiteral("/system_settings.ini");
+    const auto create
+        = reinterpret_cast<void* (*)(KivoTrade::ITrade*)>(module.resolve("CreateModuleWidget"));
+    FakeTrade trade;
+    std::unique_ptr<QWidget> dialog(static_cast<QWidget*>(create(&trade)));
+    QVERIFY(QMetaObject::invokeMethod(dialog.get(), "saveUISettings"));
+    QVERIFY(QFile::exists(file));
+    dialog.reset();
+    QVERIFY(module.unload());
+
+    writeFile(file, "[UI]\nscale=1000\n");
+    const QSettings settings(file, QSettings::IniFormat);
+    QCOMPARE(settings.allKeys(), QStringList{QStringLiteral("UI/scale")});
+    QCOMPARE(settings.value(QStringLiteral("UI/scale")).toInt(), 1000);
+}
 
 void tst_ModuleExports::exactlySevenSymbols()
 {
