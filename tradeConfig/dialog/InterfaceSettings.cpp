@@ -1,5 +1,6 @@
 #include "tradeConfig/dialog/InterfaceSettings.h"
 
+#include "tradeConfig/dialog/CodeList.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include <QDir>
@@ -13,18 +14,12 @@
 
 namespace {
 
-constexpr const char* languageCodes[] = {"zh_CN", "zh_TW", "en_US"};
+constexpr CodeList languageCodes = {{"zh_CN", "zh_TW", "en_US"}};
 
 // The settings' cache outlives this library, so the keys must not lie in its image.
 QString languageKey() { return QLatin1String("UI/language"); }
 
 QString scaleKey() { return QLatin1String("UI/scale"); }
-
-QString languageCode(int index)
-{
-    const bool known = index > 0 && index < int(std::size(languageCodes));
-    return QLatin1String(languageCodes[known ? index : 0]);
-}
 
 /// Whether a new version of the file can be written beside it. On a full disk QSettings puts a
 /// file cut short in the old one's place and reports success.
@@ -79,7 +74,7 @@ namespace InterfaceSettings {
 
 QString dataDirectory()
 {
-    // A path that fills the buffer has no terminator.
+    // A path that fills its buffer comes without a terminator.
     constexpr uint bufferSize = 512;
     const char* const path = ApplicationHomePath();
     return QString::fromUtf8(path, int(qstrnlen(path, bufferSize)));
@@ -92,15 +87,7 @@ QString filePath()
     return directory.absoluteFilePath(QStringLiteral("system_settings.ini"));
 }
 
-int languageIndex()
-{
-    const QString code = storedValue(languageKey()).toString();
-    for (int index = 1; index < int(std::size(languageCodes)); ++index) {
-        if (code == QLatin1String(languageCodes[index]))
-            return index;
-    }
-    return 0;
-}
+int languageIndex() { return languageCodes.indexOf(storedValue(languageKey()).toString()); }
 
 int scale() { return storedValue(scaleKey()).toInt(); }
 
@@ -113,7 +100,7 @@ void save(int languageIndex, int scale)
         if (!settings.isWritable() || !directoryHasRoomFor(path))
             return;
         settings.allKeys();
-        settings.setValue(languageKey(), languageCode(languageIndex));
+        settings.setValue(languageKey(), QString::fromLatin1(languageCodes.at(languageIndex)));
         settings.setValue(scaleKey(), scale);
         settings.sync();
     };

@@ -1,6 +1,7 @@
 #include "tradeConfig/dialog/ParmBinding.h"
 
 #include "tradeConfig/PackedText.h"
+#include "tradeConfig/dialog/CodeList.h"
 
 #include "ui_CTradeConfigWidget.h"
 
@@ -45,13 +46,7 @@ constexpr Field fields[] = {
     {Section::Trading, &TradeParm::orderSuccessDialog, &Form::checkBox_trade_wtDlg},
 };
 
-struct PageCode {
-    int index;
-    const char* code;
-};
-
-constexpr PageCode pageCodes[] = {{1, "ptmc"}, {2, "zjgp"}};
-constexpr const char* firstPageCode = "ptmr";
+constexpr CodeList pageCodes = {{"ptmr", "ptmc", "zjgp"}};
 
 // The record keeps an older order of the functions than the tables show.
 constexpr int entryOfRow[] = {0, 1, 5, 6, 2, 3, 4, 7, 8, 9, 10, 11, 12};
@@ -115,24 +110,12 @@ void store(TradeParm& parm, const Form& ui)
 
 void loadDefaultPage(const TradeParm& parm, const Form& ui)
 {
-    const QString stored = pageCode(parm);
-    int index = 0;
-    for (const PageCode& page : pageCodes) {
-        if (stored == QLatin1String(page.code))
-            index = page.index;
-    }
-    ui.comboBox_system_defaultView->setCurrentIndex(index);
+    ui.comboBox_system_defaultView->setCurrentIndex(pageCodes.indexOf(pageCode(parm)));
 }
 
 void storeDefaultPage(TradeParm& parm, const Form& ui)
 {
-    const int index = ui.comboBox_system_defaultView->currentIndex();
-    const char* code = firstPageCode;
-    for (const PageCode& page : pageCodes) {
-        if (index == page.index)
-            code = page.code;
-    }
-    setPageCode(parm, code);
+    setPageCode(parm, pageCodes.at(ui.comboBox_system_defaultView->currentIndex()));
 }
 
 QStringList loadShortcuts(const TradeParm& parm, Shortcuts shortcuts)

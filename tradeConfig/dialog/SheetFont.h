@@ -13,7 +13,8 @@ template <typename Replace> void keep(QWidget& widget, const Replace& replaceShe
     replaceSheet();
     if (widget.font() == font)
         return;
-    // As they are: otherwise the family is put in front of them once more or once less.
+    // Explicitly: setFont() takes a list of families that is only inherited from the parent again
+    // and puts the family in front of it, which makes it another font.
     font.setFamilies(font.families());
     widget.setFont(font);
 }

@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int rowHeight = 37;
+
 enum Column { FunctionColumn, KeyColumn, StatusColumn, ColumnCount };
 
 struct GlobalHotkey {
@@ -91,9 +93,9 @@ void setUp(QTableWidget& table, int rows)
     header.setStyleSheet(QStringLiteral("background-color:rgba(235,235,235,0.28);font:18px;"
                                         "QHeaderView::section{font:18px '宋体'; "
                                         "padding-left:2px; }"));
-    header.setFixedHeight(37);
+    header.setFixedHeight(rowHeight);
     table.verticalHeader()->setVisible(false);
-    table.verticalHeader()->setDefaultSectionSize(37);
+    table.verticalHeader()->setDefaultSectionSize(rowHeight);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
 
     table.setColumnCount(ColumnCount);
@@ -164,9 +166,9 @@ ShortcutTable::Check ShortcutTable::check(const QStringList& texts, int row,
                                           const QString& text) const
 {
     if (refusesGlobalHotkeys && isGlobalHotkey(text))
-        return {Verdict::GlobalHotkey, -1};
+        return {Verdict::GlobalHotkey};
     if (text.isEmpty())
-        return {Verdict::Emptied, -1};
+        return {Verdict::Emptied};
     const int duplicate = firstDuplicate(texts, row, text);
     return {duplicate < 0 ? Verdict::Accepted : Verdict::Duplicate, duplicate};
 }
