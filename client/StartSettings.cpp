@@ -9,6 +9,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -21,14 +22,25 @@ void install(QCoreApplication* application, const QString& name, const QString& 
         delete translator;
 }
 
+/// Empty also for a value in the toolkit's binary notation that asks for more memory than there is.
+QString storedText(const QSettings& file, const QString& key)
+{
+    try {
+        return file.value(key).toString();
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
 } // namespace
 
 StartSettings StartSettings::read(const DataDirectory& directory)
 {
     const QSettings file(directory.settingsFile(), QSettings::IniFormat);
     StartSettings settings;
-    settings.scalePercent = std::clamp(file.value(QStringLiteral("UI/scale")).toInt(), 100, 300);
-    const QString language = file.value(QStringLiteral("UI/language")).toString();
+    settings.scalePercent
+        = std::clamp(storedText(file, QStringLiteral("UI/scale")).toInt(), 100, 300);
+    const QString language = storedText(file, QStringLiteral("UI/language"));
     const bool known = language == QLatin1String("zh_TW") || language == QLatin1String("en_US");
     settings.language = known ? language : QStringLiteral("zh_CN");
     return settings;

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void withoutADisplay();
     void speaksTheChosenLanguage_data();
     void speaksTheChosenLanguage();
+    void settingThatAsksForTooMuch();
 
     void printsTheDefaults();
     void printsTheStoredRecord();
@@ -238,6 +239,18 @@ void tst_ClientCommandLine::speaksTheChosenLanguage()
     const Outcome outcome = run(arguments);
     const QByteArray said = outcome.output + outcome.errors;
     QVERIFY2(said.contains(expected), said.constData());
+}
+
+// It counts as absent, for the client when it starts and for the module when it shows its dialog.
+void tst_ClientCommandLine::settingThatAsksForTooMuch()
+{
+    write(QStringLiteral("config/system_settings.ini"),
+          "[UI]\nscale=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n");
+    const Outcome printed = run({QStringLiteral("--print-record")});
+    QVERIFY2(printed.status == 0, printed.errors.constData());
+    const Outcome pictures
+        = run({QStringLiteral("--screenshots"), m_home->filePath(QStringLiteral("pictures"))});
+    QVERIFY2(pictures.status == 0, pictures.errors.constData());
 }
 
 void tst_ClientCommandLine::printsTheDefaults()
