@@ -1,7 +1,6 @@
 #include "client/Screenshots.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QStackedWidget>
@@ -47,20 +46,13 @@ void select(QStackedWidget* stack, QWidget* list, const QPoint& position, int in
 
 } // namespace
 
-ScreenshotResult writeScreenshots(QWidget& dialog, const QString& directory)
+Pictures writeScreenshots(QWidget& dialog, const QString& directory)
 {
     constexpr int switchWidth = 219;
     constexpr int switchHeight = 60;
     constexpr int entryHeight = 50;
 
-    ScreenshotResult result;
-    const auto fail = [&result](const QString& reason) {
-        result.failure = reason;
-        return result;
-    };
-    if (!QDir().mkpath(directory))
-        return fail(QCoreApplication::translate("Screenshots", "无法创建目录 %1").arg(directory));
-
+    Pictures pictures(directory);
     auto* const top = dialog.findChild<QStackedWidget*>(QStringLiteral("stackedWidget"));
     auto* const bar = dialog.findChild<QWidget*>(QStringLiteral("switchex_widget"));
     dialog.show();
@@ -69,22 +61,22 @@ ScreenshotResult writeScreenshots(QWidget& dialog, const QString& directory)
         const Group& names = groups[group];
         auto* const stack = dialog.findChild<QStackedWidget*>(QLatin1String(names.stack));
         auto* const list = dialog.findChild<QWidget*>(QLatin1String(names.list));
-        if (!top || !stack)
-            return fail(QCoreApplication::translate("Screenshots", "设置窗口缺少 %1")
-                            .arg(QLatin1String(names.stack)));
+        if (!top || !stack) {
+            pictures.failure = QCoreApplication::translate("Screenshots", "设置窗口缺少 %1")
+                                   .arg(QLatin1String(names.stack));
+            return pictures;
+        }
         select(top, bar, QPoint(group * switchWidth + switchWidth / 2, switchHeight / 2), group);
         for (int page = 0; page < stack->count(); ++page) {
             select(stack, list, QPoint(60, page * entryHeight + entryHeight / 2), page);
             QCoreApplication::processEvents();
-            const QString file
-                = QDir(directory).absoluteFilePath(QStringLiteral("%1-%2-%3.png")
-                                                       .arg(QLatin1String(names.name))
-                                                       .arg(page + 1)
-                                                       .arg(stack->currentWidget()->objectName()));
-            if (!dialog.grab().save(file, "PNG"))
-                return fail(QCoreApplication::translate("Screenshots", "无法写入 %1").arg(file));
-            result.files += file;
+            const QString name = QStringLiteral("%1-%2-%3")
+                                     .arg(QLatin1String(names.name))
+                                     .arg(page + 1)
+                                     .arg(stack->currentWidget()->objectName());
+            if (!pictures.add(name, dialog.grab()))
+                return pictures;
         }
     }
-    return result;
+    return pictures;
 }

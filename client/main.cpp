@@ -1,14 +1,16 @@
+#include "appearance/SkinStyle.h"
+#include "appearance/SkinSwitcher.h"
 #include "client/ClientOptions.h"
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
 #include "client/MainWindow.h"
 #include "client/Screenshots.h"
 #include "client/SettingsModule.h"
-#include "client/SkinStyle.h"
-#include "client/SkinSwitcher.h"
+#include "client/SkinChoice.h"
 #include "client/StartSettings.h"
 #include "client/TradeCore.h"
 #include "gallery/Gallery.h"
+#include "libskin/SkinLibrary.h"
 
 #include <QApplication>
 #include <QDir>
@@ -62,11 +64,23 @@ int fail(const QString& message)
     return EXIT_FAILURE;
 }
 
-int tellPictures(const ScreenshotResult& result)
+// The skin that the user asks for, or the one that was last chosen. False if the former cannot be
+// used; the latter may be gone.
+bool loadSkin(const QString& asked, const QString& chosen)
 {
-    for (const QString& file : result.files)
+    CorvelSkin::SkinLibrary* const library = CorvelSkin::SkinLibrary::instance();
+    if (!asked.isEmpty())
+        return library->load(asked);
+    if (library->names().contains(chosen))
+        library->load(chosen);
+    return true;
+}
+
+int tellPictures(const Pictures& pictures)
+{
+    for (const QString& file : pictures.files)
         std::printf("%s\n", qPrintable(file));
-    return result.failure.isEmpty() ? EXIT_SUCCESS : fail(result.failure);
+    return pictures.failure.isEmpty() ? EXIT_SUCCESS : fail(pictures.failure);
 }
 
 // The data directory as the module sees it; when that one failed, as the program's own does, if
@@ -210,8 +224,10 @@ int main(int argc, char** argv)
         return fail(moduleFailure);
 
     QApplication::setStyle(new SkinStyle);
-    SkinSwitcher skins(directory);
-    if (!skins.start(options.skin))
+    SkinSwitcher skins;
+    QObject::connect(&skins, &SkinSwitcher::chosen,
+                     [&directory](const QString& name) { SkinChoice::keep(directory, name); });
+    if (!loadSkin(options.skin, SkinChoice::read(directory)))
         tell(QMessageBox::Warning,
              Client::tr("无法使用皮肤 %1，已改用内置的浅色皮肤。").arg(options.skin));
     if (options.gallery)

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDialog>
-#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -816,13 +815,9 @@ Gallery::Gallery(QWidget* parent)
     resize(wanted.boundedTo(screen()->availableSize() - QSize(0, 40)));
 }
 
-ScreenshotResult Gallery::writeScreenshots(const QString& directory)
+Pictures Gallery::writeScreenshots(const QString& directory)
 {
-    ScreenshotResult result;
-    if (!QDir().mkpath(directory)) {
-        result.failure = tr("无法创建目录 %1").arg(directory);
-        return result;
-    }
+    Pictures pictures(directory);
     show();
     for (int index = 0; index < m_pages.size(); ++index) {
         const Page& page = m_pages.at(index);
@@ -834,13 +829,8 @@ ScreenshotResult Gallery::writeScreenshots(const QString& directory)
         page.content->adjustSize();
         const QPixmap picture = page.content->grab();
         area->setWidgetResizable(true);
-        const QString file = QDir(directory).absoluteFilePath(
-            QStringLiteral("gallery-%1-%2.png").arg(index + 1).arg(page.name));
-        if (!picture.save(file, "PNG")) {
-            result.failure = tr("无法写入 %1").arg(file);
-            return result;
-        }
-        result.files += file;
+        if (!pictures.add(QStringLiteral("gallery-%1-%2").arg(index + 1).arg(page.name), picture))
+            break;
     }
-    return result;
+    return pictures;
 }

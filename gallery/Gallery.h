@@ -1,6 +1,6 @@
 #pragma once
 
-#include "client/Screenshots.h"
+#include "appearance/Pictures.h"
 
 #include <QMainWindow>
 #include <QVector>
@@ -32,7 +32,7 @@ public:
 
     /// Writes every page in its full size as a PNG file into @p directory, which is created if
     /// it is missing. Shows the window meanwhile.
-    ScreenshotResult writeScreenshots(const QString& directory);
+    Pictures writeScreenshots(const QString& directory);
 
 private:
     QVector<Page> m_pages;

@@ -1197,14 +1197,6 @@ Change the values marked red until they turn green, then press OK again.</transl
         <source>控件展示</source>
         <translation>Widget gallery</translation>
     </message>
-    <message>
-        <source>无法创建目录 %1</source>
-        <translation>Cannot create the directory %1</translation>
-    </message>
-    <message>
-        <source>无法写入 %1</source>
-        <translation>Cannot write %1</translation>
-    </message>
 </context>
 <context>
     <name>Instance</name>
@@ -1332,6 +1324,17 @@ Data directory: %3</translation>
             <numerusform>%1 not confirmed, %n value changed</numerusform>
             <numerusform>%1 not confirmed, %n values changed</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>Cannot create the directory %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>Cannot write %1</translation>
     </message>
 </context>
 <context>
@@ -1886,16 +1889,8 @@ Data directory: %3</translation>
 <context>
     <name>Screenshots</name>
     <message>
-        <source>无法创建目录 %1</source>
-        <translation>Cannot create the directory %1</translation>
-    </message>
-    <message>
         <source>设置窗口缺少 %1</source>
         <translation>The settings window lacks %1</translation>
-    </message>
-    <message>
-        <source>无法写入 %1</source>
-        <translation>Cannot write %1</translation>
     </message>
 </context>
 <context>

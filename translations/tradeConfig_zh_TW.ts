@@ -1197,14 +1197,6 @@
         <source>控件展示</source>
         <translation>控制項展示</translation>
     </message>
-    <message>
-        <source>无法创建目录 %1</source>
-        <translation>無法建立目錄 %1</translation>
-    </message>
-    <message>
-        <source>无法写入 %1</source>
-        <translation>無法寫入 %1</translation>
-    </message>
 </context>
 <context>
     <name>Instance</name>
@@ -1330,6 +1322,17 @@
         <translation>
             <numerusform>%1 未經確認，修改了 %n 項</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Pictures</name>
+    <message>
+        <source>无法创建目录 %1</source>
+        <translation>無法建立目錄 %1</translation>
+    </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>無法寫入 %1</translation>
     </message>
 </context>
 <context>
@@ -1884,16 +1887,8 @@
 <context>
     <name>Screenshots</name>
     <message>
-        <source>无法创建目录 %1</source>
-        <translation>無法建立目錄 %1</translation>
-    </message>
-    <message>
         <source>设置窗口缺少 %1</source>
         <translation>設定視窗缺少 %1</translation>
-    </message>
-    <message>
-        <source>无法写入 %1</source>
-        <translation>無法寫入 %1</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,4 @@
-#include "client/DataDirectory.h"
-#include "client/SkinSwitcher.h"
+#include "appearance/SkinSwitcher.h"
 #include "gallery/Gallery.h"
 #include "gallery/GalleryParts.h"
 #include "libskin/SkinLibrary.h"
@@ -66,8 +65,7 @@ private Q_SLOTS:
 private:
     const QWidget* page(const char* name) const;
 
-    const DataDirectory m_directory{QDir::homePath()};
-    const SkinSwitcher m_skins{m_directory};
+    const SkinSwitcher m_skins;
     std::unique_ptr<Gallery> m_gallery;
 };
 
@@ -388,7 +386,7 @@ void tst_Gallery::screenshots()
     for (const QString& skin : skins) {
         QVERIFY(SkinLibrary::instance()->load(skin));
         Gallery gallery;
-        const ScreenshotResult result = gallery.writeScreenshots(directory.filePath(skin));
+        const Pictures result = gallery.writeScreenshots(directory.filePath(skin));
         QCOMPARE(result.failure, QString());
         QCOMPARE(result.files.size(), 7);
         QCOMPARE(QFileInfo(result.files.first()).fileName(),
@@ -411,7 +409,7 @@ void tst_Gallery::screenshotsIntoAFile()
 {
     QTemporaryFile file;
     QVERIFY(file.open());
-    const ScreenshotResult result = m_gallery->writeScreenshots(file.fileName());
+    const Pictures result = m_gallery->writeScreenshots(file.fileName());
     QVERIFY(result.failure.contains(file.fileName()));
     QCOMPARE(result.files, QStringList());
 }

@@ -1,4 +1,4 @@
-#include "client/SkinStyle.h"
+#include "appearance/SkinStyle.h"
 #include "libskin/SkinLibrary.h"
 #include "support/Contrast.h"
 #include "support/TestMain.h"

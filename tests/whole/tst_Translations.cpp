@@ -153,8 +153,8 @@ void tst_Translations::everyTextIsTranslated()
     lupdate.start(QStringLiteral(LUPDATE),
                   {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
                    QStringLiteral("-I"), QStringLiteral("."), QStringLiteral("tradeConfig"),
-                   QStringLiteral("client"), QStringLiteral("gallery"), QStringLiteral("-ts"),
-                   extracted});
+                   QStringLiteral("appearance"), QStringLiteral("client"),
+                   QStringLiteral("gallery"), QStringLiteral("-ts"), extracted});
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
     const QVector<Message> needed = messagesOf(extracted);

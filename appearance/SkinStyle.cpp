@@ -1,4 +1,4 @@
-#include "client/SkinStyle.h"
+#include "appearance/SkinStyle.h"
 
 #include <QPainter>
 #include <QStyleOption>

@@ -1,43 +1,20 @@
-#include "client/SkinSwitcher.h"
+#include "appearance/SkinSwitcher.h"
 
-#include "client/DataDirectory.h"
 #include "libskin/SkinLibrary.h"
-#include "tradeConfig/dialog/SheetFont.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
-#include <QSettings>
 #include <QWidget>
 
 using CorvelSkin::SkinLibrary;
 
-namespace {
-
-QString skinKey() { return QStringLiteral("View/skin"); }
-
-} // namespace
-
-SkinSwitcher::SkinSwitcher(const DataDirectory& directory, QObject* parent)
+SkinSwitcher::SkinSwitcher(QObject* parent)
     : QObject(parent)
-    , m_directory(directory)
 {
     connect(SkinLibrary::instance(), &SkinLibrary::skinChanged, this, &SkinSwitcher::applyPalette);
     applyPalette();
-}
-
-bool SkinSwitcher::start(const QString& nameOrFolder)
-{
-    SkinLibrary* const library = SkinLibrary::instance();
-    if (!nameOrFolder.isEmpty())
-        return library->load(nameOrFolder);
-    const QString chosen
-        = QSettings(m_directory.clientFile(), QSettings::IniFormat).value(skinKey()).toString();
-    // One that is gone is no reason not to start.
-    if (library->names().contains(chosen))
-        library->load(chosen);
-    return true;
 }
 
 void SkinSwitcher::fill(QMenu* menu)
@@ -57,7 +34,7 @@ void SkinSwitcher::fill(QMenu* menu)
 void SkinSwitcher::choose(const QString& name)
 {
     SkinLibrary::instance()->load(name);
-    QSettings(m_directory.clientFile(), QSettings::IniFormat).setValue(skinKey(), name);
+    Q_EMIT chosen(name);
 }
 
 void SkinSwitcher::applyPalette()
@@ -69,9 +46,14 @@ void SkinSwitcher::applyPalette()
         const QString sheet = widget->styleSheet();
         if (sheet.isEmpty())
             continue;
-        SheetFont::keep(*widget, [&] {
-            widget->setStyleSheet(QString());
-            widget->setStyleSheet(sheet);
-        });
+        QFont font = widget->font();
+        widget->setStyleSheet(QString());
+        widget->setStyleSheet(sheet);
+        if (widget->font() == font)
+            continue;
+        // A new sheet drops what is inherited from the window. The families are set as they are:
+        // otherwise the first is put in front of them once more.
+        font.setFamilies(font.families());
+        widget->setFont(font);
     }
 }
