@@ -1,0 +1,16 @@
+#pragma once
+
+class QWidget;
+
+/// What the pages of the gallery show. The caller owns what it gets.
+namespace GalleryPages {
+
+QWidget* horizontalBars();
+QWidget* verticalBars();
+QWidget* navigationLists();
+QWidget* captionBars();
+QWidget* imageButtons();
+QWidget* messageBoxes();
+QWidget* hints();
+
+} // namespace GalleryPages
