@@ -1,5 +1,7 @@
 #include "client/RecordModel.h"
 
+#include "client/RecordFields.h"
+
 #include <QColor>
 #include <QFont>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "client/RecordFields.h"
+#include "client/OwnedRecord.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>

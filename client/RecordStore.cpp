@@ -2,6 +2,7 @@
 
 #include "client/DataDirectory.h"
 #include "client/FileReplace.h"
+#include "client/RecordFields.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -2,6 +2,7 @@
 // record alone, an accepted one stores values that the controls can hold, and the host's bytes
 // stay untouched. Boxes are answered at once; the restarter is not there to be started.
 
+#include "client/OwnedRecord.h"
 #include "client/RecordFields.h"
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzSetup.h"

@@ -2,6 +2,7 @@
 // saved afterwards loads again.
 
 #include "client/DataDirectory.h"
+#include "client/OwnedRecord.h"
 #include "client/RecordFields.h"
 #include "client/RecordStore.h"
 #include "fuzz/FuzzInput.h"

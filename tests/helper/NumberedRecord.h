@@ -1,5 +1,6 @@
 #pragma once
 
+#include "client/OwnedRecord.h"
 #include "client/RecordFields.h"
 
 /// A record that carries @p number (up to 9999999) from its first field to its last, and
