@@ -1,6 +1,7 @@
 #include "client/MainWindow.h"
 
 #include "client/DataDirectory.h"
+#include "client/RecordFilter.h"
 #include "client/RecordModel.h"
 #include "client/SettingsModule.h"
 #include "client/SettingsWindow.h"
@@ -23,20 +24,6 @@
 #include <QTime>
 #include <QToolBar>
 #include <QVBoxLayout>
-
-void RecordFilter::setChangedOnly(bool changedOnly)
-{
-    m_changedOnly = changedOnly;
-    invalidateFilter();
-}
-
-bool RecordFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
-{
-    const QModelIndex index = sourceModel()->index(row, 0, parent);
-    if (m_changedOnly && !index.data(RecordModel::ChangedRole).toBool())
-        return false;
-    return QSortFilterProxyModel::filterAcceptsRow(row, parent);
-}
 
 MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
                        const DataDirectory& directory, QWidget* parent)

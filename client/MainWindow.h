@@ -2,31 +2,16 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <QSortFilterProxyModel>
 
 class DataDirectory;
 class QLabel;
 class QMenu;
 class QTableView;
+class RecordFilter;
 class RecordModel;
 class SettingsModule;
 class SettingsWindow;
 class TradeCore;
-
-/// Shows only the rows that match a text, or only those that changed last.
-class RecordFilter : public QSortFilterProxyModel {
-    Q_OBJECT
-
-public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
-    void setChangedOnly(bool changedOnly);
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
-
-private:
-    bool m_changedOnly = false;
-};
 
 /// The client's window: the record as it stands, and the way to the settings.
 class MainWindow : public QMainWindow {

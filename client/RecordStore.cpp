@@ -2,154 +2,14 @@
 
 #include "client/DataDirectory.h"
 #include "client/FileReplace.h"
-#include "client/RecordFields.h"
+#include "client/RecordJson.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
-
-#include <cmath>
-
-using RecordFields::Field;
-using RecordFields::Kind;
-
-namespace {
-
-QJsonValue elementToJson(const TradeParm& record, const Field& field, int index)
-{
-    switch (field.kind) {
-    case Kind::Integer:
-        return RecordFields::integer(record, field, index);
-    case Kind::Text:
-        return RecordFields::text(record, field, index);
-    case Kind::Bytes:
-        return QString::fromLatin1(RecordFields::bytes(record, field).toHex());
-    }
-    return QJsonValue();
-}
-
-QJsonObject toObject(const OwnedRecord& record)
-{
-    QJsonObject object;
-    for (const Field& field : RecordFields::all()) {
-        const QString name = QLatin1String(field.name);
-        if (!field.isArray) {
-            object.insert(name, elementToJson(record.get(), field, 0));
-            continue;
-        }
-        QJsonArray array;
-        for (int i = 0; i < field.count; ++i)
-            array.append(elementToJson(record.get(), field, i));
-        object.insert(name, array);
-    }
-    return object;
-}
-
-// A value as the file spells it, for messages.
-QString spelled(const QJsonValue& value)
-{
-    const QByteArray inArray = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    const QString text = QString::fromUtf8(inArray.mid(1, inArray.size() - 2));
-    constexpr int longest = 80;
-    return text.size() > longest ? text.left(longest) + QStringLiteral("…") : text;
-}
-
-bool isWholeNumber(double number) { return std::floor(number) == number; }
-
-// Stores one element; false when the value has the wrong type or is out of range.
-bool elementFromJson(TradeParm& record, const Field& field, int index, const QJsonValue& value)
-{
-    switch (field.kind) {
-    case Kind::Integer: {
-        const double number = value.toDouble();
-        if (!value.isDouble() || !isWholeNumber(number) || number < field.minimum
-            || number > field.maximum)
-            return false;
-        RecordFields::setInteger(record, field, index, static_cast<int>(number));
-        return true;
-    }
-    case Kind::Text: {
-        const QString text = value.toString();
-        if (!value.isString() || !RecordFields::isAllowed(field, text)
-            || text.contains(QChar(QChar::Null)))
-            return false;
-        RecordFields::setText(record, field, index, text);
-        return true;
-    }
-    case Kind::Bytes: {
-        const QByteArray digits = value.toString().toLatin1();
-        const QByteArray bytes = QByteArray::fromHex(digits);
-        if (!value.isString() || bytes.size() != field.count || bytes.toHex() != digits.toLower())
-            return false;
-        RecordFields::setBytes(record, field, bytes);
-        return true;
-    }
-    }
-    return false;
-}
-
-QString wrongValue(const Field& field, int index, const QJsonValue& value)
-{
-    return RecordStore::tr("%1 的值 %2 无效（应为%3）")
-        .arg(RecordFields::elementName(field, index), spelled(value),
-             RecordFields::allowedValues(field));
-}
-
-QStringList fromObject(OwnedRecord& record, const QJsonObject& object)
-{
-    QStringList problems;
-    for (const Field& field : RecordFields::all()) {
-        const auto found = object.constFind(QLatin1String(field.name));
-        if (found == object.constEnd())
-            continue;
-        const QJsonValue value = found.value();
-        if (!field.isArray) {
-            if (!elementFromJson(record.get(), field, 0, value))
-                problems += wrongValue(field, 0, value);
-            continue;
-        }
-        const QJsonArray array = value.toArray();
-        if (!value.isArray() || array.size() != field.count) {
-            problems += RecordStore::tr("%1 的值 %2 无效（应为 %3 个元素的数组）")
-                            .arg(QLatin1String(field.name), spelled(value))
-                            .arg(field.count);
-            continue;
-        }
-        for (int i = 0; i < field.count; ++i) {
-            if (!elementFromJson(record.get(), field, i, array.at(i)))
-                problems += wrongValue(field, i, array.at(i));
-        }
-    }
-    return problems;
-}
-
-QJsonObject foreignFields(QJsonObject object)
-{
-    for (const Field& field : RecordFields::all())
-        object.remove(QLatin1String(field.name));
-    return object;
-}
-
-// The first element whose value load() would refuse, in words; empty when there is none.
-QString refusal(const OwnedRecord& record)
-{
-    for (const Field& field : RecordFields::all()) {
-        for (int i = 0; field.kind != Kind::Bytes && i < field.count; ++i) {
-            const bool allowed = field.kind == Kind::Integer
-                ? RecordFields::isAllowed(field, RecordFields::integer(record.get(), field, i))
-                : RecordFields::isAllowed(field, RecordFields::text(record.get(), field, i));
-            if (!allowed)
-                return wrongValue(field, i, elementToJson(record.get(), field, i));
-        }
-    }
-    return QString();
-}
-
-} // namespace
 
 QString RecordStore::LoadReport::message() const
 {
@@ -194,8 +54,8 @@ RecordStore::LoadReport RecordStore::load(OwnedRecord& record)
         } else if (!document.isObject()) {
             report.problems += tr("内容不是 JSON 对象");
         } else {
-            report.problems = fromObject(record, document.object());
-            m_foreign = foreignFields(document.object());
+            report.problems = RecordJson::toRecord(document.object(), record);
+            m_foreign = RecordJson::foreignFields(document.object());
         }
     }
     if (report.isClean())
@@ -229,9 +89,11 @@ QString RecordStore::moveAside() const
 
 QString RecordStore::save(const OwnedRecord& record)
 {
-    const QString refused = refusal(record);
+    const QJsonObject own = RecordJson::fromRecord(record);
+    OwnedRecord readBack;
+    const QStringList refused = RecordJson::toRecord(own, readBack);
     if (!refused.isEmpty())
-        return refused;
+        return refused.first();
     if (!m_directory.makeConfigDirectory())
         return tr("无法创建目录 %1").arg(m_directory.configDirectory());
     if (m_mustMoveAside) {
@@ -241,7 +103,6 @@ QString RecordStore::save(const OwnedRecord& record)
     }
 
     QJsonObject object = m_foreign;
-    const QJsonObject own = toObject(record);
     for (auto it = own.constBegin(); it != own.constEnd(); ++it)
         object.insert(it.key(), it.value());
     const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Indented);
@@ -263,5 +124,5 @@ void RecordStore::removeLeftovers() const
 
 QByteArray RecordStore::toJson(const OwnedRecord& record)
 {
-    return QJsonDocument(toObject(record)).toJson(QJsonDocument::Indented);
+    return QJsonDocument(RecordJson::fromRecord(record)).toJson(QJsonDocument::Indented);
 }

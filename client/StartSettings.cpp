@@ -2,7 +2,7 @@
 
 #include "client/DataDirectory.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
@@ -12,8 +12,6 @@
 #include <new>
 
 namespace {
-
-constexpr const char* factorVariable = "QT_SCALE_FACTOR";
 
 void install(QCoreApplication* application, const QString& name, const QString& directory)
 {
@@ -54,26 +52,4 @@ void StartSettings::installTranslations(QCoreApplication* application) const
     install(application, QStringLiteral("qtbase_") + language, toolkit);
     install(application, QStringLiteral("qtbase_") + language, ours);
     install(application, QStringLiteral("tradeConfig_") + language, ours);
-}
-
-InterfaceScale::InterfaceScale(int percent)
-    : m_before(qgetenv(factorVariable))
-    , m_wasSet(qEnvironmentVariableIsSet(factorVariable))
-{
-    bool ok = false;
-    const double before = m_before.toDouble(&ok);
-    const double factor = percent / 100.0 * (ok && before > 0 ? before : 1.0);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // 105 % must not become 100 %.
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    qputenv(factorVariable, QByteArray::number(factor));
-}
-
-InterfaceScale::~InterfaceScale()
-{
-    if (m_wasSet)
-        qputenv(factorVariable, m_before);
-    else
-        qunsetenv(factorVariable);
 }

@@ -3,6 +3,7 @@
 #include "client/ClientOptions.h"
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
+#include "client/InterfaceScale.h"
 #include "client/MainWindow.h"
 #include "client/Screenshots.h"
 #include "client/SettingsModule.h"

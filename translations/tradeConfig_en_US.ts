@@ -1809,6 +1809,17 @@ Data directory: %3</translation>
     </message>
 </context>
 <context>
+    <name>RecordJson</name>
+    <message>
+        <source>%1 的值 %2 无效（应为%3）</source>
+        <translation>%1 holds %2, which is not valid (expected %3)</translation>
+    </message>
+    <message>
+        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
+        <translation>%1 holds %2, which is not valid (expected an array of %3 elements)</translation>
+    </message>
+</context>
+<context>
     <name>RecordModel</name>
     <message>
         <source>原为空</source>
@@ -1841,14 +1852,6 @@ Data directory: %3</translation>
 </context>
 <context>
     <name>RecordStore</name>
-    <message>
-        <source>%1 的值 %2 无效（应为%3）</source>
-        <translation>%1 holds %2, which is not valid (expected %3)</translation>
-    </message>
-    <message>
-        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
-        <translation>%1 holds %2, which is not valid (expected an array of %3 elements)</translation>
-    </message>
     <message>
         <source>交易参数文件 %1 无法使用：</source>
         <translation>The record %1 cannot be used:</translation>

@@ -1807,6 +1807,17 @@
     </message>
 </context>
 <context>
+    <name>RecordJson</name>
+    <message>
+        <source>%1 的值 %2 无效（应为%3）</source>
+        <translation>%1 的值 %2 無效（應為%3）</translation>
+    </message>
+    <message>
+        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
+        <translation>%1 的值 %2 無效（應為 %3 個元素的陣列）</translation>
+    </message>
+</context>
+<context>
     <name>RecordModel</name>
     <message>
         <source>原为空</source>
@@ -1839,14 +1850,6 @@
 </context>
 <context>
     <name>RecordStore</name>
-    <message>
-        <source>%1 的值 %2 无效（应为%3）</source>
-        <translation>%1 的值 %2 無效（應為%3）</translation>
-    </message>
-    <message>
-        <source>%1 的值 %2 无效（应为 %3 个元素的数组）</source>
-        <translation>%1 的值 %2 無效（應為 %3 個元素的陣列）</translation>
-    </message>
     <message>
         <source>交易参数文件 %1 无法使用：</source>
         <translation>交易參數檔案 %1 無法使用：</translation>
