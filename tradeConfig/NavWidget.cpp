@@ -36,6 +36,7 @@ void CNavWidget::SetBtnList(QStringList list)
     PartEvents::tellEach(*this, QAccessible::ObjectDestroyed, count);
     items = std::move(list);
     count = items.size();
+    ++m_fillings;
     PartEvents::tellEach(*this, QAccessible::ObjectCreated, count);
 }
 

@@ -40,4 +40,6 @@ private:
     int entryAt(int y) const;
     QRectF entryRect(int index) const;
     void press(int index);
+
+    int m_fillings = 0; // after each, all entries are others
 };

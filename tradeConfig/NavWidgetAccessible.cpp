@@ -25,28 +25,24 @@ CNavWidget* NavWidgetAccessible::list() const { return static_cast<CNavWidget*>(
 
 int NavWidgetAccessible::childCount() const { return isValid() ? list()->count : 0; }
 
-bool NavWidgetAccessible::hasPart(int key) const { return key < list()->count; }
+int NavWidgetAccessible::generation() const { return list()->m_fillings; }
 
-QString NavWidgetAccessible::partName(int key) const { return list()->items.value(key); }
+QString NavWidgetAccessible::partName(int index) const { return list()->items.value(index); }
 
-QRectF NavWidgetAccessible::partRect(int key) const { return list()->entryRect(key); }
+QRectF NavWidgetAccessible::partRect(int index) const { return list()->entryRect(index); }
 
 QAccessible::Role NavWidgetAccessible::partRole(int) const { return QAccessible::ListItem; }
 
-void NavWidgetAccessible::addPartState(int key, QAccessible::State& state) const
+void NavWidgetAccessible::addPartState(int index, QAccessible::State& state) const
 {
     state.selectable = true;
-    state.selected = key == list()->selected;
+    state.selected = index == list()->selected;
     // As painted: the highlight rests on the selected entry when the mouse is elsewhere.
-    state.hotTracked = key == list()->hover && !state.selected;
+    state.hotTracked = index == list()->hover && !state.selected;
 }
 
 bool NavWidgetAccessible::canPress(int) const { return true; }
 
-void NavWidgetAccessible::press(int key) { list()->press(key); }
+void NavWidgetAccessible::press(int index) { list()->press(index); }
 
-bool NavWidgetAccessible::partAt(QPoint point, int& key) const
-{
-    key = list()->entryAt(point.y());
-    return hasPart(key) && key >= 0;
-}
+int NavWidgetAccessible::partAt(QPoint point) const { return list()->entryAt(point.y()); }

@@ -4,25 +4,26 @@
 
 class CNavWidget;
 
-/// A navigation list as a list of items, told apart by their index.
+/// A navigation list as a list of items.
 class NavWidgetAccessible : public PartsAccessible {
 public:
-    /// Once in the life of the library; interfaces only come to be when asked for.
+    /// Once in the life of the library; interfaces are made when somebody asks for one.
     static void install();
 
     explicit NavWidgetAccessible(CNavWidget* list);
 
     int childCount() const override;
-    bool hasPart(int key) const override;
-    QString partName(int key) const override;
-    QRectF partRect(int key) const override;
-    QAccessible::Role partRole(int key) const override;
-    void addPartState(int key, QAccessible::State& state) const override;
-    bool canPress(int key) const override;
-    void press(int key) override;
+    int generation() const override;
+
+    QString partName(int index) const override;
+    QRectF partRect(int index) const override;
+    QAccessible::Role partRole(int index) const override;
+    void addPartState(int index, QAccessible::State& state) const override;
+    bool canPress(int index) const override;
+    void press(int index) override;
 
 protected:
-    bool partAt(QPoint point, int& key) const override;
+    int partAt(QPoint point) const override;
 
 private:
     CNavWidget* list() const;

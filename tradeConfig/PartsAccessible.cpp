@@ -4,17 +4,25 @@
 
 namespace {
 
+constexpr int gone = -1;
+
+// One part. It looks its index up whenever it is asked for something.
 class PartAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     PartAccessible(PartsAccessible* whole, int key)
         : m_whole(whole)
         , m_key(key)
+        , m_generation(whole->generation())
     {
     }
 
-    int key() const { return m_key; }
+    int index() const
+    {
+        return m_whole->isValid() && m_whole->generation() == m_generation ? m_whole->indexOf(m_key)
+                                                                           : gone;
+    }
 
-    bool isValid() const override { return m_whole->isValid() && m_whole->hasPart(m_key); }
+    bool isValid() const override { return index() != gone; }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override { return m_whole->window(); }
     QAccessibleInterface* parent() const override { return m_whole; }
@@ -26,33 +34,36 @@ public:
 
     QString text(QAccessible::Text which) const override
     {
-        return which == QAccessible::Name && isValid() ? m_whole->partName(m_key) : QString();
+        const int place = index();
+        return which == QAccessible::Name && place != gone ? m_whole->partName(place) : QString();
     }
 
     QRect rect() const override
     {
-        if (!isValid())
+        const int place = index();
+        if (place == gone)
             return QRect();
-        QRect place = m_whole->partRect(m_key).toRect();
-        place.translate(m_whole->widget()->mapToGlobal(QPoint(0, 0)));
-        return place;
+        const QPoint origin = m_whole->widget()->mapToGlobal(QPoint(0, 0));
+        return m_whole->partRect(place).toRect().translated(origin);
     }
 
     QAccessible::Role role() const override
     {
-        return isValid() ? m_whole->partRole(m_key) : QAccessible::NoRole;
+        const int place = index();
+        return place != gone ? m_whole->partRole(place) : QAccessible::NoRole;
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State state;
-        if (!isValid()) {
+        const int place = index();
+        if (place == gone) {
             state.invalid = true;
             return state;
         }
         state.disabled = !m_whole->widget()->isEnabled();
         state.invisible = !m_whole->widget()->isVisible();
-        m_whole->addPartState(m_key, state);
+        m_whole->addPartState(place, state);
         return state;
     }
 
@@ -70,7 +81,7 @@ public:
     void doAction(const QString& name) override
     {
         if (name == pressAction() && canPress())
-            m_whole->press(m_key);
+            m_whole->press(index());
     }
 
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
@@ -78,12 +89,20 @@ public:
 private:
     bool canPress() const
     {
-        return isValid() && m_whole->widget()->isEnabled() && m_whole->canPress(m_key);
+        const int place = index();
+        return place != gone && m_whole->widget()->isEnabled() && m_whole->canPress(place);
     }
 
-    PartsAccessible* m_whole; // which owns this
+    PartsAccessible* m_whole; // which deletes this before itself
     int m_key;
+    int m_generation;
 };
+
+template <typename Ids> void deleteAll(const Ids& ids)
+{
+    for (const QAccessible::Id id : ids)
+        QAccessible::deleteAccessibleInterface(id);
+}
 
 } // namespace
 
@@ -94,28 +113,42 @@ PartsAccessible::PartsAccessible(QWidget* widget, QAccessible::Role role)
 
 PartsAccessible::~PartsAccessible()
 {
-    for (const QAccessible::Id id : qAsConst(m_parts))
-        QAccessible::deleteAccessibleInterface(id);
+    deleteAll(m_parts);
+    deleteAll(m_retired);
 }
 
-QAccessibleInterface* PartsAccessible::part(int key) const
+QAccessibleInterface* PartsAccessible::part(int index) const
 {
-    if (const QAccessible::Id known = m_parts.value(key, 0))
-        return QAccessible::accessibleInterface(known);
-    auto* const made = new PartAccessible(const_cast<PartsAccessible*>(this), key);
-    m_parts.insert(key, QAccessible::registerAccessibleInterface(made));
-    return made;
+    retireReplacedParts();
+    const int key = keyOf(index);
+    QAccessible::Id& id = m_parts[key];
+    if (id == 0)
+        id = QAccessible::registerAccessibleInterface(
+            new PartAccessible(const_cast<PartsAccessible*>(this), key));
+    return QAccessible::accessibleInterface(id);
+}
+
+// Somebody may still hold the interfaces of the parts that were just replaced, and finds them
+// invalid. Those of the parts before are deleted, so that they do not pile up.
+void PartsAccessible::retireReplacedParts() const
+{
+    if (m_generation == generation())
+        return;
+    deleteAll(m_retired);
+    m_retired = m_parts.values();
+    m_parts.clear();
+    m_generation = generation();
 }
 
 QAccessibleInterface* PartsAccessible::child(int index) const
 {
-    return index >= 0 && index < childCount() ? part(keyOf(index)) : nullptr;
+    return index >= 0 && index < childCount() ? part(index) : nullptr;
 }
 
 int PartsAccessible::indexOfChild(const QAccessibleInterface* child) const
 {
     const auto* const known = dynamic_cast<const PartAccessible*>(child);
-    return known && known->parent() == this && known->isValid() ? indexOf(known->key()) : -1;
+    return known && known->parent() == this ? known->index() : -1;
 }
 
 QAccessibleInterface* PartsAccessible::childAt(int x, int y) const
@@ -123,6 +156,5 @@ QAccessibleInterface* PartsAccessible::childAt(int x, int y) const
     if (!isValid())
         return nullptr;
     const QPoint point = widget()->mapFromGlobal(QPoint(x, y));
-    int key = 0;
-    return widget()->rect().contains(point) && partAt(point, key) ? part(key) : nullptr;
+    return widget()->rect().contains(point) ? child(partAt(point)) : nullptr;
 }

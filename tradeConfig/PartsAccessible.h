@@ -2,8 +2,9 @@
 
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QList>
 
-/// Keeps a factory of accessibility interfaces installed while it lives. As a static object it
+/// Keeps a factory of accessible interfaces installed while it lives. As a static object it
 /// ends with the library, so that an unloaded module leaves no dangling function behind.
 class AccessibleFactory {
 public:
@@ -21,41 +22,50 @@ private:
 };
 
 /**
- * What assistive technology sees of a widget that paints several parts by itself: each part is
- * a child with a name, a place, a state and at most a press action.
+ * The accessible interface of a widget that paints several parts by itself: tabs, entries. Each
+ * part becomes a child interface, with a name, a place, a role, a state and at most a press action.
  *
- * A part is told by a key that stays its own as long as it exists. Its interface is made when
- * first asked for and lives as long as the widget's; while no part has its key it is invalid.
+ * A part has an index, which says where it stands among the others, and a key, which says which
+ * one it is. The index changes when a part is added before it, the key does not. A child
+ * interface keeps its part's key. Once the widget has replaced its parts, the interfaces of the
+ * old ones are invalid for good; the new ones get interfaces of their own.
  */
 class PartsAccessible : public QAccessibleWidget {
 public:
     PartsAccessible(QWidget* widget, QAccessible::Role role);
     ~PartsAccessible() override;
 
+    int childCount() const override = 0;
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
-
-    virtual bool hasPart(int key) const = 0;
-    virtual QString partName(int key) const = 0;
-    virtual QRectF partRect(int key) const = 0; ///< in the widget's coordinates
-    virtual QAccessible::Role partRole(int key) const = 0;
-    virtual void addPartState(int key, QAccessible::State& state) const = 0;
-    virtual bool canPress(int key) const = 0;
-    virtual void press(int key) = 0;
-
     using QAccessibleWidget::widget;
-    int childCount() const override = 0;
+
+    /// Another number each time the widget has replaced its parts. Keys may come back then.
+    virtual int generation() const = 0;
+    virtual int keyOf(int index) const { return index; }
+    virtual int indexOf(int key) const { return key; } ///< of a part that was not replaced
+
+    virtual QString partName(int index) const = 0;
+    virtual QRectF partRect(int index) const = 0; ///< in the widget's coordinates
+    virtual QAccessible::Role partRole(int index) const = 0;
+
+    /// Adds to what every part's @p state has: disabled, invisible.
+    virtual void addPartState(int index, QAccessible::State& state) const = 0;
+
+    virtual bool canPress(int index) const = 0;
+    virtual void press(int index) = 0;
 
 protected:
-    virtual int keyOf(int index) const { return index; }
-    virtual int indexOf(int key) const { return key; }
-
-    /// Which part a click at @p point would meet; false if none.
-    virtual bool partAt(QPoint point, int& key) const = 0;
+    /// The index of the part that a click at @p point would meet; -1 if none.
+    virtual int partAt(QPoint point) const = 0;
 
 private:
-    QAccessibleInterface* part(int key) const;
+    QAccessibleInterface* part(int index) const;
+    void retireReplacedParts() const;
 
+    // Made when somebody asks, which the toolkit does through const functions.
     mutable QHash<int, QAccessible::Id> m_parts; // by key
+    mutable QList<QAccessible::Id> m_retired; // of the generation before
+    mutable int m_generation = 0; // of m_parts
 };

@@ -189,6 +189,7 @@ void CSwitchEx::ClearAll()
     items.clear();
     qDeleteAll(endItems);
     endItems.clear();
+    ++m_clearings;
     firstIndex = 0;
     hoverItem = nullptr;
     curSel = nullptr;

@@ -176,4 +176,6 @@ private:
 
     double packEndItems();
     void drawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
+
+    int m_clearings = 0; // after each, all items are others
 };

@@ -4,10 +4,6 @@
 
 namespace {
 
-// Items are only ever appended, so that their place in their list tells them apart until the bar
-// is cleared: main items count up from 0, end items down from -1.
-int endKey(int index) { return -1 - index; }
-
 QAccessibleInterface* create(const QString& className, QObject* object)
 {
     if (className != QLatin1String("CSwitchEx"))
@@ -27,58 +23,44 @@ SwitchExAccessible::SwitchExAccessible(CSwitchEx* bar)
 
 CSwitchEx* SwitchExAccessible::bar() const { return static_cast<CSwitchEx*>(object()); }
 
-SwitchItem* SwitchExAccessible::item(int key) const
-{
-    return key >= 0 ? bar()->items.value(key) : bar()->endItems.value(endKey(key));
-}
+int SwitchExAccessible::childCount() const { return isValid() ? bar()->partCount() : 0; }
 
-int SwitchExAccessible::childCount() const
-{
-    return isValid() ? bar()->items.size() + bar()->endItems.size() : 0;
-}
+int SwitchExAccessible::generation() const { return bar()->m_clearings; }
 
+// New items come after the main ones and before the end ones. So main items keep their distance
+// from the first part, and end items theirs from the last, counted as -1, -2 and so on.
 int SwitchExAccessible::keyOf(int index) const
 {
-    return index < bar()->items.size() ? index : endKey(childCount() - 1 - index);
+    return index < bar()->items.size() ? index : index - childCount();
 }
 
-int SwitchExAccessible::indexOf(int key) const
+int SwitchExAccessible::indexOf(int key) const { return key >= 0 ? key : key + childCount(); }
+
+QString SwitchExAccessible::partName(int index) const { return bar()->part(index)->label; }
+
+QRectF SwitchExAccessible::partRect(int index) const { return bar()->part(index)->rect; }
+
+QAccessible::Role SwitchExAccessible::partRole(int index) const
 {
-    return key >= 0 ? key : childCount() - 1 - endKey(key);
+    return bar()->part(index)->isSeparator ? QAccessible::Separator : QAccessible::PageTab;
 }
 
-bool SwitchExAccessible::hasPart(int key) const { return item(key) != nullptr; }
-
-QString SwitchExAccessible::partName(int key) const { return item(key)->label; }
-
-QRectF SwitchExAccessible::partRect(int key) const { return item(key)->rect; }
-
-QAccessible::Role SwitchExAccessible::partRole(int key) const
+void SwitchExAccessible::addPartState(int index, QAccessible::State& state) const
 {
-    return item(key)->isSeparator ? QAccessible::Separator : QAccessible::PageTab;
+    const SwitchItem* const item = bar()->part(index);
+    state.selectable = !item->isSeparator;
+    state.selected = item == bar()->curSel;
+    state.hotTracked = item == bar()->hoverItem;
+    state.hasPopup = item->menu != nullptr;
+    state.offscreen = index < bar()->items.size()
+        && (index < bar()->firstIndex || index >= bar()->firstIndex + bar()->visibleCount);
 }
 
-void SwitchExAccessible::addPartState(int key, QAccessible::State& state) const
+bool SwitchExAccessible::canPress(int index) const { return !bar()->part(index)->isSeparator; }
+
+void SwitchExAccessible::press(int index) { bar()->SetCurSel(bar()->part(index), true); }
+
+int SwitchExAccessible::partAt(QPoint point) const
 {
-    const SwitchItem* const known = item(key);
-    state.selectable = !known->isSeparator;
-    state.selected = known == bar()->curSel;
-    state.hotTracked = known == bar()->hoverItem;
-    state.hasPopup = known->menu != nullptr;
-    state.offscreen
-        = key >= 0 && (key < bar()->firstIndex || key >= bar()->firstIndex + bar()->visibleCount);
-}
-
-bool SwitchExAccessible::canPress(int key) const { return !item(key)->isSeparator; }
-
-void SwitchExAccessible::press(int key) { bar()->SetCurSel(item(key), true); }
-
-bool SwitchExAccessible::partAt(QPoint point, int& key) const
-{
-    SwitchItem* const hit = bar()->HitTest(point, false);
-    if (!hit)
-        return false;
-    const int main = bar()->items.indexOf(hit);
-    key = main >= 0 ? main : endKey(bar()->endItems.indexOf(hit));
-    return true;
+    return bar()->partIndex(bar()->HitTest(point, false));
 }

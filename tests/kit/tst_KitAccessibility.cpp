@@ -23,6 +23,9 @@ private Q_SLOTS:
     void aPressDropsTheMenuDown();
     void itemsOutOfViewAreOffscreenButCanBePressed();
     void theInterfacesOutliveTheItems();
+    void anInterfaceNeverStandsForALaterItem();
+    void anInterfaceNeverStandsForALaterEntry();
+    void interfacesOfReplacedPartsDoNotPileUp();
     void describesAWidgetThatIsGone();
     void addingItemsMovesNoIdentity();
     void theInterfacesDieWithTheBar();
@@ -273,12 +276,80 @@ void tst_KitAccessibility::theInterfacesOutliveTheItems()
     }
     QCOMPARE(runs, 0);
 
-    // The next item in the place is told by the same interface.
-    bar.AddNormalSwitch(text("new"));
-    QVERIFY(a->isValid());
-    QCOMPARE(nameOf(a), text("new"));
-    QCOMPARE(list->child(0), a);
-    QVERIFY(!e->isValid());
+    // What comes next in the same place is another item.
+    bar.AddNormalSwitch(text("new"), [&] { ++runs; });
+    QAccessibleInterface* const fresh = list->child(0);
+    QCOMPARE(nameOf(fresh), text("new"));
+    for (QAccessibleInterface* const gone : {a, e}) {
+        QVERIFY(gone != fresh);
+        QVERIFY(!gone->isValid());
+        QCOMPARE(nameOf(gone), QString());
+        pressPart(gone);
+        QCOMPARE(list->indexOfChild(gone), -1);
+    }
+    QCOMPARE(runs, 0);
+    pressPart(fresh);
+    QCOMPARE(runs, 1);
+}
+
+// Most allocators give a new item the address of the one that was freed last.
+void tst_KitAccessibility::anInterfaceNeverStandsForALaterItem()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    bar.resize(400, 40);
+    QAccessibleInterface* const list = of(bar);
+    for (int round = 0; round < 20; ++round) {
+        bar.AddNormalSwitch(text("old"));
+        QAccessibleInterface* const old = list->child(0);
+        QVERIFY(old->isValid());
+        bar.ClearAll();
+        bar.AddNormalSwitch(text("new"));
+        QVERIFY(!old->isValid());
+        QVERIFY(list->child(0) != old);
+        QVERIFY(!old->isValid());
+        bar.ClearAll();
+    }
+}
+
+void tst_KitAccessibility::anInterfaceNeverStandsForALaterEntry()
+{
+    CNavWidget nav;
+    nav.resize(120, 400);
+    nav.SetBtnList({text("a"), text("b")});
+    const QSignalSpy clicked(&nav, &CNavWidget::signal_onclicked);
+    QAccessibleInterface* const list = of(nav);
+    QAccessibleInterface* const a = list->child(0);
+    QAccessibleInterface* const b = list->child(1);
+    // The same texts again: other entries all the same.
+    nav.SetBtnList({text("a"), text("b"), text("c")});
+    for (QAccessibleInterface* const gone : {a, b}) {
+        QVERIFY(!gone->isValid());
+        QCOMPARE(nameOf(gone), QString());
+        QVERIFY(gone->state().invalid);
+        pressPart(gone);
+        QCOMPARE(list->indexOfChild(gone), -1);
+    }
+    QCOMPARE(clicked.size(), 0);
+    QCOMPARE(namesOf(list), (QStringList{text("a"), text("b"), text("c")}));
+    QVERIFY(list->child(0) != a);
+    QVERIFY(list->child(1) != b);
+    QVERIFY(!a->isValid());
+    QCOMPARE(list->indexOfChild(list->child(1)), 1);
+}
+
+void tst_KitAccessibility::interfacesOfReplacedPartsDoNotPileUp()
+{
+    Bar bar(nullptr, Qt::Horizontal, QMargins());
+    QAccessibleInterface* const list = of(bar);
+    QVector<QAccessible::Id> ids;
+    for (int round = 0; round < 5; ++round) {
+        bar.AddNormalSwitch(text("a"));
+        ids << QAccessible::uniqueId(list->child(0));
+        bar.ClearAll();
+    }
+    // Those of the last two rounds are left: invalid, but there for who holds them.
+    for (int round = 0; round < 5; ++round)
+        QCOMPARE(QAccessible::accessibleInterface(ids[round]) != nullptr, round >= 3);
 }
 
 // Assistive technology may hold on to what describes a widget that is gone.
