@@ -63,6 +63,7 @@ public:
         }
         state.disabled = !m_whole->widget()->isEnabled();
         state.invisible = !m_whole->widget()->isVisible();
+        state.offscreen = !m_whole->partRect(place).intersects(m_whole->widget()->rect());
         m_whole->addPartState(place, state);
         return state;
     }

@@ -50,7 +50,7 @@ public:
     virtual QRectF partRect(int index) const = 0; ///< in the widget's coordinates
     virtual QAccessible::Role partRole(int index) const = 0;
 
-    /// Adds to what every part's @p state has: disabled, invisible.
+    /// Adds to what every part's @p state has: disabled, invisible, off-screen.
     virtual void addPartState(int index, QAccessible::State& state) const = 0;
 
     virtual bool canPress(int index) const = 0;

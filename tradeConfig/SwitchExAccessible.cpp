@@ -52,8 +52,11 @@ void SwitchExAccessible::addPartState(int index, QAccessible::State& state) cons
     state.selected = item == bar()->curSel;
     state.hotTracked = item == bar()->hoverItem;
     state.hasPopup = item->menu != nullptr;
-    state.offscreen = index < bar()->items.size()
-        && (index < bar()->firstIndex || index >= bar()->firstIndex + bar()->visibleCount);
+    // An item that was scrolled out keeps the cell that it had in sight.
+    const int shown = index - bar()->firstIndex;
+    if (bar()->moreShown && index < bar()->items.size()
+        && (shown < 0 || shown >= bar()->visibleCount))
+        state.offscreen = true;
 }
 
 bool SwitchExAccessible::canPress(int index) const { return !bar()->part(index)->isSeparator; }

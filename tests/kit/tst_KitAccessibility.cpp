@@ -22,6 +22,10 @@ private Q_SLOTS:
     void aPressDoesWhatAClickDoes();
     void aPressDropsTheMenuDown();
     void itemsOutOfViewAreOffscreenButCanBePressed();
+    void whatIsOffscreen_data();
+    void whatIsOffscreen();
+    void entriesBelowTheListAreOffscreen();
+    void neitherTakesTheFocusOrKeys();
     void theInterfacesOutliveTheItems();
     void anInterfaceNeverStandsForALaterItem();
     void anInterfaceNeverStandsForALaterEntry();
@@ -248,6 +252,110 @@ void tst_KitAccessibility::itemsOutOfViewAreOffscreenButCanBePressed()
     pressPart(list->child(3));
     QCOMPARE(runs, 1);
     QCOMPARE(bar.curSel, bar.items[3]);
+}
+
+// Five main items of 50 pixels and two end items of 50. An "o" for each that is off-screen.
+void tst_KitAccessibility::whatIsOffscreen_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("scrolled");
+    QTest::addColumn<QString>("expected");
+
+    const int button = CSwitchEx::ModeButton;
+    const int division = CSwitchEx::ModeSwitch;
+    QTest::newRow("all fit") << button << 350 << 0 << text("-------");
+    // The scroll buttons begin at 161: three of five fit.
+    QTest::newRow("overflowing") << button << 299 << 0 << text("---oo--");
+    QTest::newRow("scrolled by one") << button << 299 << 1 << text("o---o--");
+    QTest::newRow("scrolled to the end") << button << 299 << 2 << text("oo-----");
+    // The inner end item lies from -50 to 0, then from -49 to 1.
+    QTest::newRow("an end item beyond the bar") << button << 50 << 0 << text("oooooo-");
+    QTest::newRow("an end item in sight by a pixel") << button << 51 << 0 << text("ooooo--");
+    QTest::newRow("no bar at all") << button << 0 << 0 << text("ooooooo");
+    QTest::newRow("equal division") << division << 350 << 0 << text("-------");
+    QTest::newRow("equal division, short") << division << 70 << 0 << text("-------");
+    QTest::newRow("equal division, scrolled before") << division << 299 << 2 << text("-------");
+}
+
+void tst_KitAccessibility::whatIsOffscreen()
+{
+    QFETCH(int, mode);
+    QFETCH(int, length);
+    QFETCH(int, scrolled);
+    QFETCH(QString, expected);
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        const bool horizontal = orientation == Qt::Horizontal;
+        Bar bar(nullptr, orientation, QMargins());
+        bar.setMinimumSize(0, 0);
+        bar.resize(horizontal ? QSize(length, 60) : QSize(60, length));
+        bar.setItemSize(50);
+        if (scrolled == 0)
+            bar.changeMode(CSwitchEx::SwitchMode(mode));
+        for (int i = 0; i < 7; ++i)
+            bar.AddNormalSwitch(QString::number(i), {}, i >= 5);
+        for (int i = 0; i < scrolled; ++i)
+            bar.DoClickMoreItem(false);
+        bar.changeMode(CSwitchEx::SwitchMode(mode));
+        QString states;
+        for (int i = 0; i < 7; ++i)
+            states += QLatin1Char(of(bar)->child(i)->state().offscreen ? 'o' : '-');
+        QCOMPARE(states, expected);
+        // Off-screen is not invisible, nor does it keep anybody from pressing.
+        QCOMPARE(of(bar)->child(3)->actionInterface()->actionNames().size(), 1);
+    }
+}
+
+void tst_KitAccessibility::entriesBelowTheListAreOffscreen()
+{
+    CNavWidget nav;
+    nav.SetBtnList({text("a"), text("b"), text("c")});
+    const auto states = [&](int height) {
+        nav.resize(120, height);
+        QString all;
+        for (int i = 0; i < 3; ++i)
+            all += QLatin1Char(of(nav)->child(i)->state().offscreen ? 'o' : '-');
+        return all;
+    };
+    QCOMPARE(states(400), text("---"));
+    QCOMPARE(states(101), text("---"));
+    QCOMPARE(states(100), text("--o"));
+    QCOMPARE(states(51), text("--o"));
+    QCOMPARE(states(50), text("-oo"));
+    QCOMPARE(states(0), text("ooo"));
+}
+
+void tst_KitAccessibility::neitherTakesTheFocusOrKeys()
+{
+    QWidget window;
+    Bar bar(&window, Qt::Horizontal, QMargins());
+    bar.resize(400, 40);
+    bar.AddNormalSwitch(text("a"));
+    bar.AddNormalSwitch(text("b"));
+    bar.SetCurSel(bar.items[0], false);
+    CNavWidget nav(&window);
+    nav.resize(120, 400);
+    nav.SetBtnList({text("a"), text("b")});
+    QWidget focused(&window);
+    focused.setFocusPolicy(Qt::StrongFocus);
+    window.show();
+    window.activateWindow();
+    focused.setFocus();
+    QTRY_VERIFY(focused.hasFocus());
+    for (QWidget* const widget : std::initializer_list<QWidget*>{&bar, &nav}) {
+        QCOMPARE(widget->focusPolicy(), Qt::NoFocus);
+        QVERIFY(!of(*widget)->state().focusable);
+        QVERIFY(!of(*widget)->child(1)->state().focusable);
+        for (const int key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Space, Qt::Key_Return}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(widget, &press);
+            QVERIFY(!press.isAccepted());
+        }
+        QVERIFY(of(*widget)->child(0)->state().selected);
+        pressPart(of(*widget)->child(1));
+        QVERIFY(of(*widget)->child(1)->state().selected);
+        QVERIFY(focused.hasFocus());
+    }
 }
 
 void tst_KitAccessibility::theInterfacesOutliveTheItems()
