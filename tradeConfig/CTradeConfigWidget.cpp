@@ -134,9 +134,13 @@ void CTradeConfigWidget::initValidators()
     for (QLineEdit* const edit : edits) {
         edit->installEventFilter(this);
         if (edit == ui.lineEdit_system_lockTime)
-            edit->setValidator(new QuantityValidator(0, longestLockMinutes, this));
+            (new QuantityValidator(0, longestLockMinutes, this))->install(*edit);
+        else if (edit->isReadOnly())
+            edit->setValidator(shared); // shows a key
+        else if (edit->parent() == ui.spinBox_scale)
+            shared->install(*edit); // shows a number with its unit
         else
-            edit->setValidator(shared);
+            shared->install(*edit);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
 #include "tradeConfig/dialog/QuantityValidator.h"
 
@@ -18,7 +19,41 @@ private Q_SLOTS:
     void textSetByTheProgramStays();
     void neverMendsATextOnLeaving();
     void leavesTextAndCursorAlone();
+    void judgesTheTextThatIsThere();
+
+    void theScaleIsStillTyped_data();
+    void theScaleIsStillTyped();
 };
+
+namespace {
+
+// Keys by their characters; "<" Backspace, ">" Delete, "[" Home, "]" End, "*" select all.
+void type(QWidget& widget, const QString& keys)
+{
+    for (const QChar key : keys) {
+        switch (key.unicode()) {
+        case '<':
+            QTest::keyClick(&widget, Qt::Key_Backspace);
+            break;
+        case '>':
+            QTest::keyClick(&widget, Qt::Key_Delete);
+            break;
+        case '[':
+            QTest::keyClick(&widget, Qt::Key_Home);
+            break;
+        case ']':
+            QTest::keyClick(&widget, Qt::Key_End);
+            break;
+        case '*':
+            QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+            break;
+        default:
+            QTest::keyClick(&widget, key.toLatin1());
+        }
+    }
+}
+
+} // namespace
 
 void tst_QuantityValidator::states_data()
 {
@@ -190,6 +225,45 @@ void tst_QuantityValidator::leavesTextAndCursorAlone()
     QCOMPARE(validator.validate(text, cursor), QValidator::Invalid);
     QCOMPARE(text, QStringLiteral("12x"));
     QCOMPARE(cursor, 2);
+}
+
+// A line edit that gets a validator would hold the text that it has for valid.
+void tst_QuantityValidator::judgesTheTextThatIsThere()
+{
+    const QuantityValidator validator(0, 1000, nullptr);
+    QLineEdit edit(QStringLiteral("50000"));
+    edit.setCursorPosition(1);
+    const QSignalSpy changed(&edit, &QLineEdit::textChanged);
+    validator.install(edit);
+    QCOMPARE(edit.validator(), &validator);
+    QCOMPARE(edit.text(), QStringLiteral("50000"));
+    QCOMPARE(edit.cursorPosition(), 1);
+    QCOMPARE(changed.size(), 0);
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    QCOMPARE(edit.text(), QStringLiteral("5000"));
+}
+
+void tst_QuantityValidator::theScaleIsStillTyped_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::newRow("100, as designed") << 100;
+    QTest::newRow("125") << 125;
+}
+
+// Its editor has the same validator but shows a unit that is no part of a number.
+void tst_QuantityValidator::theScaleIsStillTyped()
+{
+    QFETCH(int, before);
+    const TestDialog dialog;
+    QSpinBox& scale = *dialog->ui.spinBox_scale;
+    scale.setValue(before);
+    QCOMPARE(scale.text(), QStringLiteral("%1%").arg(before));
+    type(scale, QStringLiteral("*150"));
+    QCOMPARE(scale.value(), 150);
+    type(scale, QStringLiteral("]<<<<275")); // the end is behind the unit
+    QTest::keyClick(&scale, Qt::Key_Return);
+    QCOMPARE(scale.value(), 275);
+    QCOMPARE(scale.text(), QStringLiteral("275%"));
 }
 
 TRADECONFIG_TEST_MAIN(tst_QuantityValidator)

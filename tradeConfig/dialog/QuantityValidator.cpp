@@ -1,5 +1,7 @@
 #include "tradeConfig/dialog/QuantityValidator.h"
 
+#include <QLineEdit>
+
 QuantityValidator::QuantityValidator(int bottom, int top, QObject* parent)
     : QIntValidator(bottom, top, parent)
 {
@@ -16,4 +18,18 @@ QValidator::State QuantityValidator::validate(QString& input, int&) const
             return Invalid;
     }
     return input.isEmpty() || value < bottom() ? Intermediate : Acceptable;
+}
+
+void QuantityValidator::install(QLineEdit& edit) const
+{
+    edit.setValidator(this);
+    if (edit.text().isEmpty())
+        return;
+    // The line edit holds the text that it has for valid until it is set anew.
+    const QSignalBlocker unchanged(edit);
+    const QString text = edit.text();
+    const int cursor = edit.cursorPosition();
+    edit.clear();
+    edit.setText(text);
+    edit.setCursorPosition(cursor);
 }

@@ -2,6 +2,8 @@
 
 #include <QIntValidator>
 
+class QLineEdit;
+
 /**
  * Accepts the empty text and decimal digits whose value lies within the range, nothing else.
  *
@@ -14,6 +16,10 @@ class QuantityValidator : public QIntValidator {
 
 public:
     QuantityValidator(int bottom, int top, QObject* parent);
+
+    /// Makes this the validator of @p edit, also of the text that it shows already. A line edit
+    /// that shows an invalid text takes any other, too.
+    void install(QLineEdit& edit) const;
 
     /// Intermediate: empty, or below the bottom but still growing. Invalid: refused as typed.
     State validate(QString& input, int& position) const override;
