@@ -134,13 +134,13 @@ void CTradeConfigWidget::initValidators()
     for (QLineEdit* const edit : edits) {
         edit->installEventFilter(this);
         if (edit == ui.lineEdit_system_lockTime)
-            (new QuantityValidator(0, longestLockMinutes, this))->install(*edit);
+            (new QuantityValidator(0, longestLockMinutes, this))->guard(*edit);
         else if (edit->isReadOnly())
             edit->setValidator(shared); // shows a key
         else if (edit->parent() == ui.spinBox_scale)
             shared->install(*edit); // shows a number with its unit
         else
-            shared->install(*edit);
+            shared->guard(*edit);
     }
 }
 

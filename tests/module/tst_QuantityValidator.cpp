@@ -3,7 +3,10 @@
 #include "tradeConfig/dialog/QuantityValidator.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 
 class tst_QuantityValidator : public QObject {
     Q_OBJECT
@@ -21,11 +24,44 @@ private Q_SLOTS:
     void leavesTextAndCursorAlone();
     void judgesTheTextThatIsThere();
 
+    void onlyTowardsANumber_data();
+    void onlyTowardsANumber();
+    void nothingElseGetsIn_data();
+    void nothingElseGetsIn();
+    void composing();
+    void undoGoesBackToWhatWasSet();
+    void theProgramMaySetAnyText();
+    void fieldsOfTheDialog_data();
+    void fieldsOfTheDialog();
+    void percentagesOfTheDialog_data();
+    void percentagesOfTheDialog();
     void theScaleIsStillTyped_data();
     void theScaleIsStillTyped();
 };
 
 namespace {
+
+// A field 0..1000 that shows what the program set.
+class Field : public QLineEdit {
+public:
+    explicit Field(const QString& text)
+        : m_validator(0, 1000, nullptr)
+    {
+        m_validator.guard(*this);
+        setText(text);
+        show();
+    }
+
+private:
+    const QuantityValidator m_validator;
+};
+
+void commit(QWidget& widget, const QString& text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&widget, &event);
+}
 
 // Keys by their characters; "<" Backspace, ">" Delete, "[" Home, "]" End, "*" select all.
 void type(QWidget& widget, const QString& keys)
@@ -241,6 +277,261 @@ void tst_QuantityValidator::judgesTheTextThatIsThere()
     QCOMPARE(changed.size(), 0);
     QTest::keyClick(&edit, Qt::Key_Delete);
     QCOMPARE(edit.text(), QStringLiteral("5000"));
+}
+
+void tst_QuantityValidator::onlyTowardsANumber_data()
+{
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char* set, const char* typed, const char* shown) {
+        QTest::addRow("%s %s", set, typed)
+            << QString::fromLatin1(set) << QString::fromLatin1(typed) << QString::fromLatin1(shown);
+    };
+    row("-1", "ab1", "-1");
+    row("-1", "[ab1", "-1");
+    row("-1", "-", "-1");
+    row("-1", "[-", "-1");
+    row("-1", "*a", "-1");
+    row("-1", "*5", "5");
+    row("-1", "*+", "-1");
+    row("-1", "*1234", "123");
+    row("-1", "*12ab", "12");
+    row("-1", "[>", "1");
+    row("-1", "[>ab23", "231");
+    row("-1", "<", "-");
+    row("-1", "<5", "-");
+    row("-1", "<a", "-");
+    row("-1", "<<", "");
+    row("-1", "<<-5", "5");
+    row("5000", "1", "5000");
+    row("5000", "x", "5000");
+    row("5000", "[1", "5000");
+    row("5000", "<", "500");
+    row("5000", "<5", "500");
+    row("5000", "<<5x", "505");
+    row("20000000", "0", "20000000");
+    row("20000000", "<", "2000000");
+    row("20000000", "<1", "2000000");
+    row("20000000", "<x<x<x<x", "2000");
+    row("20000000", "<<<<<", "200");
+    row("20000000", "<<<<<7", "200");
+    row("-2147483648", "<e<e", "-21474836");
+    row("-2147483648", "[>x", "2147483648");
+    row("-2147483648", "[>]<<<<<<<x", "214");
+    row("2147483647", "*>12", "12");
+}
+
+void tst_QuantityValidator::onlyTowardsANumber()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, typed);
+    Field field(set);
+    QCOMPARE(field.text(), set);
+    type(field, typed);
+    QTEST(field.text(), "shown");
+}
+
+void tst_QuantityValidator::nothingElseGetsIn_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("replaces"); // all that is there
+    QTest::addColumn<QString>("shown");
+    const QString set = QStringLiteral("-1");
+    QTest::newRow("letters") << QStringLiteral("ab") << false << set;
+    QTest::newRow("letter and digit") << QStringLiteral("1a") << false << set;
+    QTest::newRow("digits") << QStringLiteral("12") << false << set;
+    QTest::newRow("Chinese") << QStringLiteral("一") << false << set;
+    QTest::newRow("letters for all") << QStringLiteral("ab") << true << set;
+    QTest::newRow("too large for all") << QStringLiteral("1001") << true << set;
+    QTest::newRow("grouped for all") << QStringLiteral("1,0") << true << set;
+    QTest::newRow("full width for all") << QStringLiteral("５") << true << set;
+    QTest::newRow("number for all") << QStringLiteral("100") << true << QStringLiteral("100");
+}
+
+void tst_QuantityValidator::nothingElseGetsIn()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, replaces);
+    QGuiApplication::clipboard()->setText(text);
+    const std::function<void(QLineEdit&)> ways[] = {
+        [](QLineEdit& field) { field.paste(); },
+        [](QLineEdit& field) { QTest::keySequence(&field, QKeySequence::Paste); },
+        [](QLineEdit& field) {
+            const QScopedPointer<QMenu> menu(field.createStandardContextMenu());
+            for (QAction* const action : menu->actions()) {
+                if (action->text().startsWith(QStringLiteral("&Paste")))
+                    action->trigger();
+            }
+        },
+        [&text](QLineEdit& field) { commit(field, text); },
+    };
+    for (const auto& way : ways) {
+        Field field(QStringLiteral("-1"));
+        if (replaces)
+            field.selectAll();
+        way(field);
+        QTEST(field.text(), "shown");
+        QCOMPARE(field.displayText(), field.text());
+    }
+
+    Field field(QStringLiteral("-1"));
+    QMimeData data;
+    data.setText(text);
+    QDropEvent drop(field.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &drop);
+    QCOMPARE(field.text(), QStringLiteral("-1"));
+}
+
+// Composing takes away what is selected, as it does anywhere; the text that comes is refused.
+void tst_QuantityValidator::composing()
+{
+    Field field(QStringLiteral("-1"));
+    QInputMethodEvent compose(QStringLiteral("er"), {});
+    QCoreApplication::sendEvent(&field, &compose);
+    QCOMPARE(field.text(), QStringLiteral("-1"));
+    commit(field, QStringLiteral("二"));
+    QCOMPARE(field.displayText(), QStringLiteral("-1"));
+    field.selectAll();
+    QCoreApplication::sendEvent(&field, &compose);
+    commit(field, QStringLiteral("二"));
+    QCOMPARE(field.displayText(), QString());
+    QCoreApplication::sendEvent(&field, &compose);
+    commit(field, QStringLiteral("2"));
+    QCOMPARE(field.displayText(), QStringLiteral("2"));
+}
+
+void tst_QuantityValidator::undoGoesBackToWhatWasSet()
+{
+    Field field(QStringLiteral("5000"));
+    type(field, QStringLiteral("x<"));
+    QCOMPARE(field.text(), QStringLiteral("500"));
+    field.undo();
+    QCOMPARE(field.text(), QStringLiteral("5000"));
+    type(field, QStringLiteral("x"));
+    QCOMPARE(field.text(), QStringLiteral("5000"));
+    // Nothing that was refused comes back.
+    field.redo();
+    QCOMPARE(field.text(), QStringLiteral("5000"));
+    field.undo();
+    QCOMPARE(field.text(), QStringLiteral("5000"));
+    // What is refused leaves the cursor and the selection where they were.
+    field.setCursorPosition(2);
+    type(field, QStringLiteral("x"));
+    QCOMPARE(field.cursorPosition(), 2);
+    field.setSelection(1, 2);
+    type(field, QStringLiteral("x"));
+    QCOMPARE(field.selectedText(), QStringLiteral("00"));
+}
+
+void tst_QuantityValidator::theProgramMaySetAnyText()
+{
+    Field field(QStringLiteral("30"));
+    for (const char* const text : {"5000", "-5", "abc", "20000000", "7", ""}) {
+        field.setText(QString::fromLatin1(text));
+        QCOMPARE(field.text(), QString::fromLatin1(text));
+        type(field, QStringLiteral("q"));
+        QCOMPARE(field.text(), QString::fromLatin1(text));
+    }
+}
+
+void tst_QuantityValidator::fieldsOfTheDialog_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("stored");
+    for (const char* const name :
+         {"lineEdit_system_lockTime", "lineEdit_trade_baseCount", "lineEdit_trade_high",
+          "lineEdit_trade_low", "lineEdit_trade_desc", "lineEdit_trade_kc_baseCount",
+          "lineEdit_trade_kc_high", "lineEdit_trade_kc_low", "lineEdit_trade_kc_desc"}) {
+        for (const int stored : {-1, 20000000, INT_MIN, INT_MAX})
+            QTest::addRow("%s %d", name, stored) << QString::fromLatin1(name) << stored;
+    }
+}
+
+void tst_QuantityValidator::fieldsOfTheDialog()
+{
+    QFETCH(QString, name);
+    QFETCH(int, stored);
+    constexpr std::int32_t TradeParm::*members[] = {
+        &TradeParm::lockMinutes,     &TradeParm::splitBaseQty,    &TradeParm::splitMaxQty,
+        &TradeParm::splitMinQty,     &TradeParm::splitStepQty,    &TradeParm::starSplitBaseQty,
+        &TradeParm::starSplitMaxQty, &TradeParm::starSplitMinQty, &TradeParm::starSplitStepQty,
+    };
+    TestDialog dialog([stored, &members](FakeTrade& trade) {
+        TradeParm& parm = trade.parm();
+        parm.splitEnabled = 1;
+        parm.starSplitEnabled = 1;
+        parm.starSplitStrategy = 3; // one that leaves the base quantity as it is stored
+        for (const auto member : members)
+            parm.*member = stored;
+    });
+    auto& edit = dialog.find<QLineEdit>(qPrintable(name));
+    const QString shown = QString::number(stored);
+    QCOMPARE(edit.text(), shown);
+    type(edit, QStringLiteral("ab1"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("1a"));
+    edit.paste();
+    commit(edit, QStringLiteral("二"));
+    QCOMPARE(edit.text(), shown);
+
+    // As good as untouched, and saved as it was.
+    dialog.confirm();
+    QCOMPARE(dialog.trade.saves, 1);
+    for (const auto member : members)
+        QCOMPARE(dialog.trade.parm().*member, stored);
+
+    type(edit, QStringLiteral("*300q"));
+    QCOMPARE(edit.text(), QStringLiteral("300"));
+}
+
+void tst_QuantityValidator::percentagesOfTheDialog_data()
+{
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](int stored, const char* typed, const char* shown) {
+        QTest::addRow("%d %s", stored, typed)
+            << stored << QString::fromLatin1(typed) << QString::fromLatin1(shown);
+    };
+    row(250, "", "250");
+    row(250, "ab1", "250");
+    row(250, "<", "25");
+    row(250, "<x", "25");
+    row(250, "*30", "30");
+    row(250, "*a", "250");
+    row(-1, "ab1", "-1");
+    row(-1, "[>", "1");
+    row(-1, "<<7", "7");
+    row(50000, "<x", "5000");
+    row(50000, "<x<x<x", "50");
+    row(20, "x0", "20");
+}
+
+void tst_QuantityValidator::percentagesOfTheDialog()
+{
+    QFETCH(int, stored);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    for (const bool buys : {true, false}) {
+        const TestDialog dialog([stored](FakeTrade& trade) {
+            trade.parm().starBuyRiseChoices[1] = stored;
+            trade.parm().starBuyRiseIndex = 1;
+            trade.parm().starSellRiseChoices[1] = stored;
+            trade.parm().starSellRiseIndex = 1;
+        });
+        QComboBox& combo
+            = buys ? *dialog->ui.comboBox_trade_kc_buyRise : *dialog->ui.comboBox_trade_kc_sellRise;
+        (buys ? dialog->ui.pushButton_kc_buyRise : dialog->ui.pushButton_kc_sellRise)->click();
+        const QString& kept = buys ? dialog->starBuyRiseText : dialog->starSellRiseText;
+        QCOMPARE(kept, QString::number(stored));
+        type(*combo.lineEdit(), typed);
+        QCOMPARE(combo.lineEdit()->text(), shown);
+        QCOMPARE(kept, shown);
+        QFocusEvent leave(QEvent::FocusOut);
+        QCoreApplication::sendEvent(&combo, &leave);
+        QCOMPARE(combo.currentText(), shown);
+        QCOMPARE(combo.count(), 3);
+    }
 }
 
 void tst_QuantityValidator::theScaleIsStillTyped_data()

@@ -2,6 +2,25 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
+
+namespace {
+
+// Whether @p text is @p whole with characters taken out.
+bool isTakenFrom(const QString& text, const QString& whole)
+{
+    const auto* next = whole.cbegin();
+    for (const QChar character : text) {
+        next = std::find(next, whole.cend(), character);
+        if (next == whole.cend())
+            return false;
+        ++next;
+    }
+    return true;
+}
+
+} // namespace
+
 QuantityValidator::QuantityValidator(int bottom, int top, QObject* parent)
     : QIntValidator(bottom, top, parent)
 {
@@ -32,4 +51,19 @@ void QuantityValidator::install(QLineEdit& edit) const
     edit.clear();
     edit.setText(text);
     edit.setCursorPosition(cursor);
+}
+
+void QuantityValidator::guard(QLineEdit& edit) const
+{
+    install(edit);
+    connect(&edit, &QLineEdit::textChanged, &edit,
+            [this, &edit, last = edit.text()](const QString& text) mutable {
+                QString copy = text;
+                int cursor = 0;
+                if (!edit.isModified() || validate(copy, cursor) != Invalid
+                    || isTakenFrom(text, last))
+                    last = text;
+                else
+                    edit.undo();
+            });
 }

@@ -21,6 +21,10 @@ public:
     /// that shows an invalid text takes any other, too.
     void install(QLineEdit& edit) const;
 
+    /// The same for a number that the user types: from a text out of range, which the program may
+    /// set, he can only take characters, or put a number in range in its place.
+    void guard(QLineEdit& edit) const;
+
     /// Intermediate: empty, or below the bottom but still growing. Invalid: refused as typed.
     State validate(QString& input, int& position) const override;
 };

@@ -48,7 +48,7 @@ QString RisePrice::beginEdit(const Form& ui, QObject* owner) const
     // a field that is only passed by would be checked when it loses it again.
     edited.setFocus();
     (ui.*editButton)->setEnabled(false);
-    (new QuantityValidator(0, largestPercent, owner))->install(*edited.lineEdit());
+    (new QuantityValidator(0, largestPercent, owner))->guard(*edited.lineEdit());
     return edited.currentText();
 }
 
