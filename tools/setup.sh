@@ -1,56 +1,17 @@
-# Sourced by run, test and the other scripts of the tree: what must be installed, and how.
-
-build_packages=(
-    build-essential cmake ninja-build pkg-config
-    qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
-    fonts-noto-cjk
-)
-test_packages=(
-    clang libgnustep-base-dev gobjc++ libbenchmark-dev
-    xvfb xauth openbox xdotool x11-utils binutils file python3
-)
-# What clang links for sanitizers, coverage and fuzzing, and what reads and names its results;
-# clang only recommends them.
-clang_runtime_packages=(libclang-rt-dev llvm)
+# Sourced by run, test and the other scripts of the tree: what must be installed, and how to build.
+# Each system says in a file of its own what it calls that: arrays of packages, install_packages,
+# and a locale with UTF-8.
 
 say() { printf '== %s\n' "$*"; }
 
+if [ "$(uname)" = Darwin ]; then
+    . tools/setup-macos.sh
+else
+    . tools/setup-debian.sh
+fi
+
 # How many processes may run side by side. macOS has no nproc.
 processors() { getconf _NPROCESSORS_ONLN; }
-
-# install_packages NAME...: installs with apt-get what dpkg does not list as installed.
-install_packages() {
-    local missing=() name
-    if ! command -v dpkg-query >/dev/null; then
-        say "No dpkg here; expecting the equivalents of: $*"
-        return 0
-    fi
-    for name in "$@"; do
-        dpkg-query -W -f='${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed \
-            || missing+=("$name")
-    done
-    if [ ${#missing[@]} -eq 0 ]; then
-        say "Every package needed is installed"
-        return 0
-    fi
-    local as_root=()
-    if [ "$(id -u)" -ne 0 ]; then
-        if ! command -v sudo >/dev/null; then
-            say "Cannot install packages: neither root nor sudo. Please install:"
-            printf '   %s\n' "${missing[*]}"
-            exit 1
-        fi
-        as_root=(sudo)
-    fi
-    say "Installing: ${missing[*]}"
-    if ! { "${as_root[@]}" apt-get update -qq \
-        && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-            apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; }; then
-        say "apt-get could not install them. Please install by hand:"
-        printf '   %s\n' "${missing[*]}"
-        exit 1
-    fi
-}
 
 # build PRESET [cmake arguments...]: configures and builds.
 build() {
