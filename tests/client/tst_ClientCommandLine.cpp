@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestMain.h"
 
 #include <QImage>
@@ -60,7 +61,6 @@ private:
     {
         return m_home->filePath(QStringLiteral(".com.kivotrade.tradeclient/") + name);
     }
-    void write(const QString& name, const QByteArray& content) const;
 
     std::unique_ptr<QTemporaryDir> m_home;
 };
@@ -94,14 +94,6 @@ Outcome tst_ClientCommandLine::run(const QStringList& arguments, const QString& 
     outcome.output = process.readAllStandardOutput();
     outcome.errors = process.readAllStandardError();
     return outcome;
-}
-
-void tst_ClientCommandLine::write(const QString& name, const QByteArray& content) const
-{
-    QVERIFY(QDir().mkpath(QFileInfo(data(name)).path()));
-    QFile file(data(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
 }
 
 void tst_ClientCommandLine::help()
@@ -181,10 +173,7 @@ void tst_ClientCommandLine::missingModuleBesideTheProgram()
 void tst_ClientCommandLine::moduleThatIsNoLibrary()
 {
     const QString file = m_home->filePath(QStringLiteral("libtext.so"));
-    QFile text(file);
-    QVERIFY(text.open(QIODevice::WriteOnly));
-    text.write("no library");
-    text.close();
+    writeFile(file, "no library");
     const Outcome outcome = run({QStringLiteral("--module"), file});
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.contains(file.toUtf8() + "：Cannot load library"),
@@ -234,8 +223,8 @@ void tst_ClientCommandLine::speaksTheChosenLanguage()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QByteArray, expected);
-    write(QStringLiteral("config/system_settings.ini"), "[UI]\nlanguage=en_US\n");
-    write(QStringLiteral("config/trade_parameters.json"), R"({"lockMinutes": -5})");
+    writeFile(data(QStringLiteral("config/system_settings.ini")), "[UI]\nlanguage=en_US\n");
+    writeFile(data(QStringLiteral("config/trade_parameters.json")), R"({"lockMinutes": -5})");
     const Outcome outcome = run(arguments);
     const QByteArray said = outcome.output + outcome.errors;
     QVERIFY2(said.contains(expected), said.constData());
@@ -244,8 +233,8 @@ void tst_ClientCommandLine::speaksTheChosenLanguage()
 // It counts as absent, for the client when it starts and for the module when it shows its dialog.
 void tst_ClientCommandLine::settingThatAsksForTooMuch()
 {
-    write(QStringLiteral("config/system_settings.ini"),
-          "[UI]\nscale=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n");
+    writeFile(data(QStringLiteral("config/system_settings.ini")),
+              "[UI]\nscale=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n");
     const Outcome printed = run({QStringLiteral("--print-record")});
     QVERIFY2(printed.status == 0, printed.errors.constData());
     const Outcome pictures
@@ -266,8 +255,8 @@ void tst_ClientCommandLine::printsTheDefaults()
 
 void tst_ClientCommandLine::printsTheStoredRecord()
 {
-    write(QStringLiteral("config/trade_parameters.json"),
-          R"({"lockMinutes": 77, "defaultPage": "zjgp", "foreign": true})");
+    writeFile(data(QStringLiteral("config/trade_parameters.json")),
+              R"({"lockMinutes": 77, "defaultPage": "zjgp", "foreign": true})");
     const Outcome outcome = run({QStringLiteral("--print-record")});
     QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.errors, QByteArray());
@@ -279,7 +268,7 @@ void tst_ClientCommandLine::printsTheStoredRecord()
 
 void tst_ClientCommandLine::printRecordTellsOfAWrongValue()
 {
-    write(QStringLiteral("config/trade_parameters.json"), R"({"lockMinutes": -5})");
+    writeFile(data(QStringLiteral("config/trade_parameters.json")), R"({"lockMinutes": -5})");
     const Outcome outcome = run({QStringLiteral("--print-record")});
     QCOMPARE(outcome.status, 0);
     QVERIFY2(outcome.errors.contains("lockMinutes"), outcome.errors.constData());
@@ -313,7 +302,8 @@ void tst_ClientCommandLine::screenshots()
     QFETCH(QByteArray, scale);
     QFETCH(QSize, size);
     if (!scale.isEmpty())
-        write(QStringLiteral("config/system_settings.ini"), "[UI]\nscale=" + scale + "\n");
+        writeFile(data(QStringLiteral("config/system_settings.ini")),
+                  "[UI]\nscale=" + scale + "\n");
     const QString target = m_home->filePath(QStringLiteral("new/pictures"));
     const Outcome outcome = run({QStringLiteral("--screenshots"), target});
     QVERIFY2(outcome.status == 0, outcome.errors.constData());
@@ -328,9 +318,7 @@ void tst_ClientCommandLine::screenshots()
         // A fraction of a pixel may be rounded either way.
         QVERIFY2(qAbs(image.width() - size.width()) <= 1, file.constData());
         QVERIFY2(qAbs(image.height() - size.height()) <= 1, file.constData());
-        QFile content(name);
-        QVERIFY(content.open(QIODevice::ReadOnly));
-        different.insert(content.readAll());
+        different.insert(contentOf(name));
     }
     QCOMPARE(different.size(), 10);
     QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
@@ -339,7 +327,7 @@ void tst_ClientCommandLine::screenshots()
 
 void tst_ClientCommandLine::galleryScreenshots()
 {
-    write(QStringLiteral("config/system_settings.ini"), "[UI]\nscale=150\n");
+    writeFile(data(QStringLiteral("config/system_settings.ini")), "[UI]\nscale=150\n");
     const auto widths = [this](const QStringList& scale) {
         const QString target = m_home->filePath(QStringLiteral("gallery"));
         const Outcome outcome
@@ -376,7 +364,7 @@ void tst_ClientCommandLine::skinThatCannotBeUsed()
     QFETCH(bool, hasTable);
     const QString skin = data(QStringLiteral("skin"));
     if (hasTable)
-        write(QStringLiteral("skin/skin.json"), "{");
+        writeFile(data(QStringLiteral("skin/skin.json")), "{");
     const auto firstPage = [this](const QString& name, const QString& target) {
         const Outcome outcome = run({QStringLiteral("--skin"), name,
                                      QStringLiteral("--screenshots"), m_home->filePath(target)});
@@ -396,8 +384,7 @@ void tst_ClientCommandLine::skinThatCannotBeUsed()
 void tst_ClientCommandLine::screenshotsIntoAFile()
 {
     const QString target = m_home->filePath(QStringLiteral("file"));
-    QFile file(target);
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    writeFile(target, "in the way");
     const Outcome outcome = run({QStringLiteral("--screenshots"), target});
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.contains(target.toUtf8()), outcome.errors.constData());
@@ -418,9 +405,8 @@ void tst_ClientCommandLine::secondInstance()
     QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(data(QStringLiteral("restart"))), 20000);
     QVERIFY(QFileInfo(data(QStringLiteral("restart"))).isExecutable());
     QVERIFY(QFileInfo(data(QStringLiteral("config"))).isDir());
-    QFile start(data(QStringLiteral("run/client.start")));
-    QVERIFY(start.open(QIODevice::ReadOnly));
-    QCOMPARE(start.readAll(), m_home->path().toUtf8() + '\0' + CLIENT_PROGRAM + '\0');
+    QCOMPARE(contentOf(data(QStringLiteral("run/client.start"))),
+             m_home->path().toUtf8() + '\0' + CLIENT_PROGRAM + '\0');
 
     const Outcome second = run({}, QStringLiteral(CLIENT_PROGRAM), QStringLiteral("offscreen"));
     QCOMPARE(second.status, 1);

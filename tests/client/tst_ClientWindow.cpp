@@ -5,6 +5,7 @@
 #include "client/SettingsWindow.h"
 #include "client/StartSettings.h"
 #include "client/TradeCore.h"
+#include "support/Files.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 
@@ -310,8 +311,7 @@ void tst_ClientWindow::closeButtonOfTheWindow()
 
 void tst_ClientWindow::tellsWhenStoringFails()
 {
-    QFile inTheWay(m_home->filePath(QStringLiteral("config")));
-    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    writeFile(m_home->filePath(QStringLiteral("config")), "in the way");
     m_window->openSettings();
     control<QLineEdit>("lineEdit_system_lockTime")->setText(QStringLiteral("45"));
     const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
@@ -368,10 +368,7 @@ void tst_ClientWindow::startSettings()
             QVERIFY(m_directory->makeConfigDirectory());
         const QString place = withConfig ? QStringLiteral("config/system_settings.ini")
                                          : QStringLiteral("system_settings.ini");
-        QFile file(m_home->filePath(place));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), qint64(content.size()));
-        file.close();
+        writeFile(m_home->filePath(place), content);
         const StartSettings settings = StartSettings::read(*m_directory);
         QCOMPARE(settings.scalePercent, scale);
         QCOMPARE(settings.language, language);

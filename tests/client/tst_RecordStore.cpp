@@ -2,6 +2,7 @@
 #include "client/RecordFields.h"
 #include "client/RecordStore.h"
 #include "client/TradeCore.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 #include "support/Unprivileged.h"
 
@@ -175,16 +176,12 @@ void tst_RecordStore::init()
 
 void tst_RecordStore::write(const QByteArray& content) const
 {
-    QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("config"))));
-    QFile file(m_home->filePath(QStringLiteral("config/trade_parameters.json")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
+    writeFile(m_home->filePath(QStringLiteral("config/trade_parameters.json")), content);
 }
 
 QByteArray tst_RecordStore::content() const
 {
-    QFile file(m_home->filePath(QStringLiteral("config/trade_parameters.json")));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contentOf(m_home->filePath(QStringLiteral("config/trade_parameters.json")));
 }
 
 QStringList tst_RecordStore::configFiles() const
@@ -425,9 +422,8 @@ void tst_RecordStore::setsAside()
         "^trade_parameters\\.\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d\\.bad\\.json$"));
     QVERIFY2(dated.match(configFiles().first()).hasMatch(), qPrintable(configFiles().first()));
     QCOMPARE(report.setAside, m_home->filePath(QStringLiteral("config/") + configFiles().first()));
-    QFile aside(report.setAside);
-    QVERIFY(aside.open(QIODevice::ReadOnly));
-    QCOMPARE(aside.readAll(), text);
+    QVERIFY(QFile::exists(report.setAside));
+    QCOMPARE(contentOf(report.setAside), text);
     QVERIFY(report.message().contains(report.setAside));
     QVERIFY(record == OwnedRecord());
 
@@ -480,11 +476,8 @@ void tst_RecordStore::neverReplacesAnEarlierSetAside()
     QCOMPARE(names.size(), 8);
     QCOMPARE(configFiles().size(), 8);
     QSet<QByteArray> contents;
-    for (const QString& name : names) {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        contents.insert(file.readAll());
-    }
+    for (const QString& name : names)
+        contents.insert(contentOf(name));
     QCOMPARE(contents.size(), 8);
 }
 
@@ -572,24 +565,20 @@ void tst_RecordStore::reportsAFullDisk()
 
 void tst_RecordStore::reportsAConfigThatIsAFile()
 {
-    QFile file(m_home->filePath(QStringLiteral("config")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    const QString config = m_home->filePath(QStringLiteral("config"));
+    writeFile(config, "");
     OwnedRecord record;
     QVERIFY(m_store->load(record).isClean());
     const QString failure = m_store->save(record);
-    QVERIFY2(failure.contains(m_home->filePath(QStringLiteral("config"))), qPrintable(failure));
-    QCOMPARE(file.size(), qint64(0));
+    QVERIFY2(failure.contains(config), qPrintable(failure));
+    QCOMPARE(QFileInfo(config).size(), qint64(0));
 }
 
 void tst_RecordStore::takesInterfaceSettingsAlong()
 {
     const QString early = m_home->filePath(QStringLiteral("system_settings.ini"));
     QCOMPARE(m_directory->settingsFile(), early);
-    QFile file(early);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write("[UI]\nscale=150\n"), qint64(15));
-    file.close();
+    writeFile(early, "[UI]\nscale=150\n");
     QCOMPARE(m_store->save(OwnedRecord()), QString());
     QCOMPARE(m_directory->settingsFile(),
              m_home->filePath(QStringLiteral("config/system_settings.ini")));
@@ -604,10 +593,8 @@ void tst_RecordStore::removesLeftovers()
                            QStringLiteral("trade_parameters.2024-01-01_00-00-00.bad.json"),
                            QStringLiteral("trade_parameters.json"),
                            QStringLiteral("trade_parameters.json.backup")};
-    for (const QString& name : stay + QStringList{QStringLiteral("trade_parameters.json.aBcDeF")}) {
-        QFile file(m_home->filePath(QStringLiteral("config/") + name));
-        QVERIFY(file.open(QIODevice::Append));
-    }
+    for (const QString& name : stay + QStringList{QStringLiteral("trade_parameters.json.aBcDeF")})
+        writeFile(m_home->filePath(QStringLiteral("config/") + name), "some content");
     m_store->removeLeftovers();
     QCOMPARE(configFiles(), stay);
 }
@@ -631,8 +618,8 @@ void tst_RecordStore::coreStoresOnCommit()
 
 void tst_RecordStore::coreReportsFailure()
 {
-    QFile file(m_home->filePath(QStringLiteral("config")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QString config = m_home->filePath(QStringLiteral("config"));
+    writeFile(config, "in the way");
     TradeCore core(*m_directory);
     core.load();
     QSignalSpy failed(&core, &TradeCore::storingFailed);
@@ -643,7 +630,7 @@ void tst_RecordStore::coreReportsFailure()
     QCOMPARE(committed.count(), 1);
     QCOMPARE(core.GetTradeParm()->lockMinutes, 45);
     QVERIFY(!core.storeIfChanged().isEmpty());
-    QVERIFY(file.remove());
+    QVERIFY(QFile::remove(config));
     QCOMPARE(core.storeIfChanged(), QString());
     QCOMPARE(object().value(QStringLiteral("lockMinutes")).toInt(), 45);
 }

@@ -1,5 +1,6 @@
 #include "client/DataDirectory.h"
 #include "client/Instance.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 
 #include <QProcess>
@@ -11,12 +12,6 @@
 namespace {
 
 constexpr int startTime = 10000;
-
-QByteArray contentOf(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -77,14 +72,13 @@ void tst_Restart::init()
 
 void tst_Restart::makeProgram() const
 {
-    QFile file(m_program);
-    QVERIFY(file.open(QIODevice::WriteOnly));
     const QString text
         = QStringLiteral("#!/bin/sh\n{ pwd; printf '%s\\n' \"$@\"; } > '%1'.$$\n"
                          "mv '%1'.$$ '%1'\n")
               .replace(QStringLiteral("%1"), m_home->filePath(QStringLiteral("ran")));
-    file.write(text.toLocal8Bit());
-    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    writeFile(m_program, text.toLocal8Bit());
+    QVERIFY(
+        QFile::setPermissions(m_program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
 void tst_Restart::writeStart(const QStringList& arguments, const QString& directory) const
@@ -113,7 +107,7 @@ void tst_Restart::waitsForTheClientToEnd()
     QCOMPARE(client->claim(), QString());
     const auto restarter = startRestarter();
     QVERIFY(restarter->waitForStarted(startTime));
-    QTest::qWait(300);
+    QTest::qWait(300); // with nobody to wait for, the program runs within 60 ms
     QCOMPARE(restarter->state(), QProcess::Running);
     QVERIFY(!programRan());
     client.reset();
@@ -147,7 +141,7 @@ void tst_Restart::comesBackAfterAKill()
     QCOMPARE(client.readAllStandardOutput(), QByteArray("held\n"));
     const auto restarter = startRestarter();
     QVERIFY(restarter->waitForStarted(startTime));
-    QTest::qWait(200);
+    QTest::qWait(200); // with nobody to wait for, the program runs within 60 ms
     QVERIFY(!programRan());
     client.kill();
     QVERIFY(client.waitForFinished(startTime));
@@ -158,10 +152,7 @@ void tst_Restart::comesBackAfterAKill()
 void tst_Restart::passesAStaleLockFile()
 {
     writeStart();
-    QFile stale(m_directory->lockFile());
-    QVERIFY(stale.open(QIODevice::WriteOnly));
-    stale.write("99999\n");
-    stale.close();
+    writeFile(m_directory->lockFile(), "99999\n");
     const auto restarter = startRestarter();
     QVERIFY(restarter->waitForFinished(startTime));
     QCOMPARE(restarter->exitCode(), 0);
@@ -191,7 +182,7 @@ void tst_Restart::givesUpAfterTheLimit()
     QVERIFY(restarter->readAllStandardError().contains("still running after 1 seconds"));
     QVERIFY(log().contains(QStringLiteral("still running after 1 seconds")));
     client.reset();
-    QTest::qWait(100);
+    QTest::qWait(100); // a restarter that still waited would run it within 60 ms
     QVERIFY(!programRan());
 }
 
@@ -248,11 +239,8 @@ void tst_Restart::reportsAMissingStart()
 {
     QFETCH(bool, there);
     QFETCH(QByteArray, content);
-    if (there) {
-        QFile file(m_directory->startFile());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
+    if (there)
+        writeFile(m_directory->startFile(), content);
     const auto restarter = startRestarter();
     QVERIFY(restarter->waitForFinished(startTime));
     QCOMPARE(restarter->exitCode(), 1);
@@ -334,10 +322,7 @@ void tst_Restart::installs()
     QCOMPARE(instance.installRestarter(QStringLiteral(RESTART_PROGRAM)), QString());
     QVERIFY2(inode() == before, "the same file stays in place");
 
-    QFile older(place);
-    QVERIFY(older.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    older.write("an older one");
-    older.close();
+    writeFile(place, "an older one");
     QCOMPARE(instance.installRestarter(QStringLiteral(RESTART_PROGRAM)), QString());
     QCOMPARE(contentOf(place), program);
 

@@ -1,4 +1,4 @@
-#include "support/FatalMessage.h"
+#include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
 #include "support/RecordingSkin.h"
 #include "support/TestMain.h"

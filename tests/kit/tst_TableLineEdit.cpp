@@ -1,6 +1,6 @@
-#include "support/FakeTrade.h"
+#include "support/MessageCapture.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <QAccessible>
@@ -14,10 +14,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QStringList seen;
-
-void recordMessage(QtMsgType, const QMessageLogContext&, const QString& text) { seen << text; }
 
 /// A dialog with buttons and a table that holds one key-capture editor with the focus.
 class Host : public QDialog {
@@ -302,27 +298,22 @@ void tst_TableLineEdit::unknownKey()
     CTableLineEdit editor(0);
     editor.setText(QStringLiteral("F8"));
     const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
-    seen.clear();
-    const QtMessageHandler previous = qInstallMessageHandler(recordMessage);
+    const MessageCapture log;
     for (const auto modifiers : {Qt::NoModifier, Qt::ShiftModifier, Qt::MetaModifier}) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, modifiers, QStringLiteral("x"));
         QCoreApplication::sendEvent(&editor, &press);
     }
-    qInstallMessageHandler(previous);
     QCOMPARE(
-        seen,
+        log.texts(),
         QStringList(
             QVector<QString>(3, QStringLiteral("Unknown key from a macro probably")).toList()));
     QCOMPARE(editor.text(), QStringLiteral("F8"));
     QCOMPARE(reported.size(), 0);
 
     // No other key writes the line.
-    seen.clear();
-    qInstallMessageHandler(recordMessage);
     QTest::keyClick(&editor, Qt::Key_Shift);
     QTest::keyClick(&editor, Qt::Key_A);
-    qInstallMessageHandler(previous);
-    QCOMPARE(seen, QStringList());
+    QCOMPARE(log.lines().size(), 3);
 }
 
 // A key that the platform has no code for is no unknown key: its sequence is empty.
@@ -738,10 +729,9 @@ void tst_TableLineEdit::assistiveTechnologyCannotType_data()
 void tst_TableLineEdit::assistiveTechnologyCannotType()
 {
     QFETCH(QString, text);
-    FakeTrade trade;
-    CTradeConfigWidget dialog(&trade);
+    const TestDialog dialog;
     auto* const cell
-        = qobject_cast<CTableLineEdit*>(dialog.ui.tableWidget_shortcut->cellWidget(3, 1));
+        = qobject_cast<CTableLineEdit*>(dialog->ui.tableWidget_shortcut->cellWidget(3, 1));
     cell->setText(QStringLiteral("F8"));
     const QSignalSpy reported(cell, &CTableLineEdit::signal_editFinished);
     QAccessibleInterface* const seen = accessible(cell);

@@ -1,8 +1,7 @@
-#include "support/FakeTrade.h"
 #include "support/Files.h"
 #include "support/ModalAnswer.h"
+#include "support/TestDialog.h"
 #include "support/TestMain.h"
-#include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
@@ -90,21 +89,17 @@ bool quits()
     return QCoreApplication::exec() == 0;
 }
 
-struct Dialog {
-    explicit Dialog(int pageMode = 2)
+struct Dialog : TestDialog {
+    Dialog()
+        : TestDialog([](FakeTrade& core) {
+            core.parm().uiPageMode = 2;
+            core.parm().languageIndex = 55;
+        })
     {
-        trade.setDistinctShortcuts();
-        trade.parm().uiPageMode = pageMode;
-        trade.parm().languageIndex = 55;
-        widget = std::make_unique<CTradeConfigWidget>(&trade);
     }
 
-    CTradeConfigWidget* operator->() const { return widget.get(); }
-    QComboBox& language() const { return *widget->ui.comboBox_system_language; }
-    QSpinBox& scale() const { return *widget->ui.spinBox_scale; }
-
-    FakeTrade trade;
-    std::unique_ptr<CTradeConfigWidget> widget;
+    QComboBox& language() const { return *get()->ui.comboBox_system_language; }
+    QSpinBox& scale() const { return *get()->ui.spinBox_scale; }
 };
 
 } // namespace
@@ -618,7 +613,7 @@ void tst_InterfaceSettings::restartQuestion()
     const Dialog dialog;
     const ModalAnswer answer([&dialog](QWidget* box) {
         QCOMPARE(box->metaObject()->className(), "CMessageBox");
-        QCOMPARE(box->parentWidget(), dialog.widget.get());
+        QCOMPARE(box->parentWidget(), dialog.get());
         const auto* const icon = box->findChild<QLabel*>(QStringLiteral("icon"));
         QVERIFY(icon && icon->isVisible());
         const QImage warning
@@ -701,7 +696,7 @@ void tst_InterfaceSettings::confirmWithoutChangeAsksNothing()
 {
     const Dialog dialog;
     const QStringList before = listing();
-    dialog->ui.pushButton_confirm->click();
+    dialog.confirm();
     QCOMPARE(dialog.trade.saves, 1);
     QCOMPARE(listing(), before);
 }
@@ -726,7 +721,7 @@ void tst_InterfaceSettings::confirmAsksBeforeValidating()
             });
             box->close();
         });
-        dialog->ui.pushButton_confirm->click();
+        dialog.confirm();
     }
     QCOMPARE(texts, QStringList({question, QStringLiteral("提示")}));
     QCOMPARE(dialog.trade.saves, 0);
@@ -745,7 +740,7 @@ void tst_InterfaceSettings::confirmNoStillSaves()
             savesThen = dialog.trade.saves;
             box->close();
         });
-        dialog->ui.pushButton_confirm->click();
+        dialog.confirm();
     }
     QCOMPARE(savesThen, 0);
     QCOMPARE(dialog.trade.saves, 1);
@@ -763,7 +758,7 @@ void tst_InterfaceSettings::confirmYesSavesToo()
     dialog->ui.lineEdit_system_lockTime->setText(QStringLiteral("18"));
     QTimer::singleShot(0, qApp, [&] {
         const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("是"));
-        dialog->ui.pushButton_confirm->click();
+        dialog.confirm();
     });
     QVERIFY(quits());
     QCOMPARE(dialog.trade.saves, 1);
@@ -781,7 +776,7 @@ void tst_InterfaceSettings::confirmYesWithBadInputDoesNotSave()
     dialog->inputValidity.insert(QStringLiteral("lineEdit_trade_high"), false);
     QTimer::singleShot(0, qApp, [&] {
         const ModalAnswer answer = ModalAnswer::clicking(QStringLiteral("是"));
-        dialog->ui.pushButton_confirm->click();
+        dialog.confirm();
     });
     QVERIFY(quits());
     QCOMPARE(dialog.trade.saves, 0);
