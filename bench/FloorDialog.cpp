@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QIntValidator>
 #include <QSettings>
+#include <QShortcut>
 
 namespace {
 
@@ -109,6 +110,7 @@ FloorDialog::FloorDialog(KivoTrade::ITrade* trade)
     fillValues(parm);
     setValidators();
     connectAll();
+    guideKeyboard();
 
     m_tip = new QLabel(this);
     m_tip->resize(160, 20);
@@ -344,6 +346,38 @@ void FloorDialog::connectAll()
         connect(m_stock.editors[row], &FloorKeyEdit::captured, this,
                 [this, row](const QString& text) { captureStockKey(row, text); });
         connect(m_credit.editors[row], &FloorKeyEdit::captured, this, [](const QString&) {});
+    }
+}
+
+void FloorDialog::guideKeyboard()
+{
+    const Ui_FloorForm& ui = *m_form;
+    for (QTableWidget* const table :
+         {ui.tableWidget_shortcut, ui.tableWidget_credit, ui.tableWidget_whole}) {
+        table->setTabKeyNavigation(false);
+        table->setFocusPolicy(Qt::ClickFocus);
+    }
+    setTabOrder(m_global[1], ui.pushButton_cancle);
+    setTabOrder(ui.pushButton_cancle, ui.pushButton_confirm);
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::NextChild)
+        + QKeySequence::keyBindings(QKeySequence::PreviousChild);
+    keys << QKeySequence(Qt::CTRL + Qt::Key_PageDown) << QKeySequence(Qt::CTRL + Qt::Key_PageUp);
+    for (const QKeySequence& key : qAsConst(keys)) {
+        auto* const shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, [] {});
+    }
+    for (QStackedWidget* const stack : {ui.stackedWidget, ui.stackedWidget_system,
+                                        ui.stackedWidget_trade, ui.stackedWidget_shortcut}) {
+        connect(stack, &QStackedWidget::currentChanged, stack, [stack] {
+            if (qobject_cast<FloorKeyEdit*>(stack->window()->focusWidget()))
+                stack->currentWidget()->setFocus();
+        });
+    }
+    for (QPushButton* const button : {ui.pushButton_cancle, ui.pushButton_confirm,
+                                      ui.pushButton_kc_buyRise, ui.pushButton_kc_sellRise}) {
+        button->setAutoDefault(false);
+        button->installEventFilter(this);
     }
 }
 

@@ -43,6 +43,7 @@ private:
     void fillValues(const TradeParm& parm);
     void setValidators();
     void connectAll();
+    void guideKeyboard();
     void storeKeys(TradeParm& parm) const;
 
     std::unique_ptr<Ui_FloorForm> m_form;

@@ -5,14 +5,17 @@
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
+#include "tradeConfig/dialog/ButtonKeys.h"
 #include "tradeConfig/dialog/ChoiceLists.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
+#include "tradeConfig/dialog/PageKeys.h"
 #include "tradeConfig/dialog/ParmBinding.h"
 #include "tradeConfig/dialog/QuantityValidator.h"
 #include "tradeConfig/dialog/RisePrice.h"
 #include "tradeConfig/dialog/RowLabels.h"
 #include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/dialog/SplitGroup.h"
+#include "tradeConfig/dialog/TabWalk.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -104,6 +107,21 @@ void CTradeConfigWidget::InitWidget()
     tipLabel->hide();
 
     ui.spinBox_scale->setValue(InterfaceSettings::scale());
+
+    initKeyboard();
+}
+
+void CTradeConfigWidget::initKeyboard()
+{
+    new PageKeys(*this, *switchBar, *ui.stackedWidget,
+                 {{ui.widget_system, ui.stackedWidget_system},
+                  {ui.widget_trade, ui.stackedWidget_trade},
+                  {ui.widget_shortcut, ui.stackedWidget_shortcut}});
+    TabWalk::lead({ui.tableWidget_shortcut, ui.tableWidget_credit, ui.tableWidget_whole},
+                  {ui.pushButton_cancle, ui.pushButton_confirm});
+    new ButtonKeys({ui.pushButton_cancle, ui.pushButton_confirm, ui.pushButton_kc_buyRise,
+                    ui.pushButton_kc_sellRise},
+                   this);
 }
 
 void CTradeConfigWidget::initSwitchBar()

@@ -55,9 +55,11 @@ const House& house()
             {"tradeConfig/CTradeConfigWidget tradeConfig/CTradeConfigWidgetEdit", true},
 
             {"tradeConfig/dialog/ParmBinding tradeConfig/dialog/ShortcutTable"},
-            {"tradeConfig/dialog/ChoiceLists tradeConfig/dialog/InterfaceSettings "
+            {"tradeConfig/dialog/ButtonKeys tradeConfig/dialog/ChoiceLists "
+             "tradeConfig/dialog/InterfaceSettings tradeConfig/dialog/PageKeys "
              "tradeConfig/dialog/RisePrice tradeConfig/dialog/RowLabels "
-             "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StyleMark"},
+             "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StyleMark "
+             "tradeConfig/dialog/TabWalk"},
             {"tradeConfig/dialog/CodeList tradeConfig/dialog/FormText "
              "tradeConfig/dialog/QuantityValidator "
              "tradeConfig/dialog/SheetFont tradeConfig/dialog/SplitRules"},
