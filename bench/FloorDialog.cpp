@@ -110,7 +110,7 @@ FloorDialog::FloorDialog(KivoTrade::ITrade* trade)
     fillValues(parm);
     setValidators();
     connectAll();
-    guideKeyboard();
+    guideKeyboardAndWheel();
 
     m_tip = new QLabel(this);
     m_tip->resize(160, 20);
@@ -349,7 +349,7 @@ void FloorDialog::connectAll()
     }
 }
 
-void FloorDialog::guideKeyboard()
+void FloorDialog::guideKeyboardAndWheel()
 {
     const Ui_FloorForm& ui = *m_form;
     for (QTableWidget* const table :
@@ -379,6 +379,14 @@ void FloorDialog::guideKeyboard()
         button->setAutoDefault(false);
         button->installEventFilter(this);
     }
+    const auto guard = [this](QWidget* control) {
+        control->setFocusPolicy(Qt::StrongFocus);
+        control->installEventFilter(this);
+    };
+    const QList<QComboBox*> combos = findChildren<QComboBox*>();
+    for (QComboBox* const combo : combos)
+        guard(combo);
+    guard(ui.spinBox_scale);
 }
 
 void FloorDialog::confirm()

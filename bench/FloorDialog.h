@@ -43,7 +43,7 @@ private:
     void fillValues(const TradeParm& parm);
     void setValidators();
     void connectAll();
-    void guideKeyboard();
+    void guideKeyboardAndWheel();
     void storeKeys(TradeParm& parm) const;
 
     std::unique_ptr<Ui_FloorForm> m_form;

@@ -16,6 +16,7 @@
 #include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/dialog/SplitGroup.h"
 #include "tradeConfig/dialog/TabWalk.h"
+#include "tradeConfig/dialog/WheelGuard.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -108,10 +109,10 @@ void CTradeConfigWidget::InitWidget()
 
     ui.spinBox_scale->setValue(InterfaceSettings::scale());
 
-    initKeyboard();
+    initKeyboardAndWheel();
 }
 
-void CTradeConfigWidget::initKeyboard()
+void CTradeConfigWidget::initKeyboardAndWheel()
 {
     new PageKeys(*this, *switchBar, *ui.stackedWidget,
                  {{ui.widget_system, ui.stackedWidget_system},
@@ -122,6 +123,7 @@ void CTradeConfigWidget::initKeyboard()
     new ButtonKeys({ui.pushButton_cancle, ui.pushButton_confirm, ui.pushButton_kc_buyRise,
                     ui.pushButton_kc_sellRise},
                    this);
+    new WheelGuard(*this);
 }
 
 void CTradeConfigWidget::initSwitchBar()

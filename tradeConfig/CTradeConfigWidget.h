@@ -134,7 +134,7 @@ private:
 
     void initSwitchBar();
     void initValidators();
-    void initKeyboard();
+    void initKeyboardAndWheel();
     bool everyInputIsValid();
     void focusLeft(QObject* watched);
     void checkSplitField(const SplitGroup& group, SplitRules::Field field);

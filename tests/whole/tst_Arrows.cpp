@@ -59,7 +59,7 @@ const House& house()
              "tradeConfig/dialog/InterfaceSettings tradeConfig/dialog/PageKeys "
              "tradeConfig/dialog/RisePrice tradeConfig/dialog/RowLabels "
              "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StyleMark "
-             "tradeConfig/dialog/TabWalk"},
+             "tradeConfig/dialog/TabWalk tradeConfig/dialog/WheelGuard"},
             {"tradeConfig/dialog/CodeList tradeConfig/dialog/FormText "
              "tradeConfig/dialog/QuantityValidator "
              "tradeConfig/dialog/SheetFont tradeConfig/dialog/SplitRules"},
