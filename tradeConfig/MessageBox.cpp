@@ -72,9 +72,9 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     setupUi(this);
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     caption->setFixedHeight(CaptionHeight);
-    // As high as its content: the icon stands at the first line of a long text.
-    verticalLayout->setAlignment(layout1, Qt::AlignVCenter);
-    verticalLayout->setAlignment(layout2, Qt::AlignHCenter);
+    // What is left over goes above the buttons.
+    verticalLayout->setStretch(2, 1);
+    verticalLayout->setAlignment(layout2, Qt::AlignHCenter | Qt::AlignBottom);
     QPushButton* const inOrder[] = {btn1, btn2, btn3, btn4, btn5, btn6};
     std::copy(std::begin(inOrder), std::end(inOrder), btns);
 

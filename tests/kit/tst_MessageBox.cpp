@@ -58,6 +58,8 @@ private Q_SLOTS:
     void nothingIsCut_data();
     void nothingIsCut();
     void nothingIsCutInAnyText();
+    void nothingIsCutInAnySize_data();
+    void nothingIsCutInAnySize();
     void iconStandsAtTheFirstLine();
     void buttonsKeepInsideTheBox();
 };
@@ -801,6 +803,56 @@ void tst_MessageBox::nothingIsCutInAnyText()
         QVERIFY2(box.size() == computed.expandedTo(box.size()), qPrintable(text));
         QVERIFY2(box.width() < 1300, qPrintable(text));
     }
+}
+
+void tst_MessageBox::nothingIsCutInAnySize_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("iconKind");
+    QTest::addColumn<int>("buttons");
+    const QString words = repeated(QStringLiteral("Some changes need a restart. "), 10);
+    for (const int iconKind : {int(QMessageBox::NoIcon), int(QMessageBox::Warning)}) {
+        QTest::addRow("lines %d", iconKind) << lines(5) << iconKind << 0x400;
+        QTest::addRow("words %d", iconKind) << words << iconKind << 0x14000;
+        QTest::addRow("one line %d", iconKind)
+            << QStringLiteral("部分修改需要重启后生效，确定现在重启吗？") << iconKind << 0x14000;
+        QTest::addRow("no button %d", iconKind) << words << iconKind << 0;
+    }
+}
+
+// A window manager may give a box another size than it asked for.
+void tst_MessageBox::nothingIsCutInAnySize()
+{
+    QFETCH(QString, text);
+    QFETCH(int, iconKind);
+    QFETCH(int, buttons);
+    Box box(QMessageBox::StandardButtons(buttons), -1, QMessageBox::Icon(iconKind), text);
+    box.show();
+    const QSize least = box.minimumSizeHint();
+    // Caption, outline, margins and buttons.
+    const int others = 30 + 2 + 26 + 14 + (buttons == 0 ? 0 : box.btn1->height());
+    int fitting = 0;
+    for (int width = least.width(); width < least.width() + 500; width += 17) {
+        for (int height = least.height(); height < least.height() + 500; height += 19) {
+            box.resize(width, height);
+            QCOMPARE(box.size(), QSize(width, height));
+            const int needed = box.msg->heightForWidth(box.msg->width());
+            if (needed > height - others)
+                continue;
+            ++fitting;
+            QVERIFY(box.msg->height() >= needed);
+            QVERIFY(box.msg->y() > box.caption->geometry().bottom());
+            if (buttons != 0) {
+                QVERIFY(box.btn1->y() > box.msg->geometry().bottom());
+                QCOMPARE(box.btn1->geometry().bottom(), height - 1 - 14 - 1);
+            }
+            if (iconKind != int(QMessageBox::NoIcon)) {
+                QCOMPARE(box.icon->y(), box.msg->y());
+                QVERIFY(box.icon->height() >= 32);
+            }
+        }
+    }
+    QVERIFY(fitting > 200);
 }
 
 void tst_MessageBox::iconStandsAtTheFirstLine()
