@@ -184,7 +184,12 @@ void CCaptionBar::clickClose()
 
 void CCaptionBar::mousePressEvent(QMouseEvent* event)
 {
-    dragOffset = event->globalPos() - window()->pos();
+    const QWidget* const top = window();
+    dragOffset = event->globalPos() - top->pos();
+    // The window system, whose events have a time, knows where in the window the pointer is. Where
+    // the window itself is, the window manager may not have said yet.
+    if (event->timestamp() != 0)
+        dragOffset = mapTo(top, event->pos()) + top->geometry().topLeft() - top->pos();
 }
 
 void CCaptionBar::mouseReleaseEvent(QMouseEvent*) { dragOffset = QPoint(); }

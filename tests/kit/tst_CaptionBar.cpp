@@ -51,6 +51,8 @@ private Q_SLOTS:
     void painting();
     void frameChangeRepaints();
     void dragFollowsWhereTheWindowWent();
+    void dragStartsWhereTheWindowReallyIs_data();
+    void dragStartsWhereTheWindowReallyIs();
     void titleMakesRoom();
     void addedPartsAreLaidOut();
     void filterOnlyWithAMaximizeButton();
@@ -716,6 +718,54 @@ void tst_CaptionBar::dragFollowsWhereTheWindowWent()
     QCOMPARE(bar.dragOffset, QPoint(10, 60));
     mouse(&bar, QEvent::MouseMove, QPoint(230, 250));
     QCOMPARE(window.pos(), QPoint(220, 190));
+}
+
+void tst_CaptionBar::dragStartsWhereTheWindowReallyIs_data()
+{
+    QTest::addColumn<bool>("frameless");
+    QTest::addColumn<bool>("throughTitle");
+    QTest::newRow("bar") << true << false;
+    QTest::newRow("title") << true << true;
+    QTest::newRow("framed") << false << false;
+}
+
+// The toolkit believes the window at (200, 150); the window manager has it at (900, 600).
+void tst_CaptionBar::dragStartsWhereTheWindowReallyIs()
+{
+    QFETCH(bool, frameless);
+    QFETCH(bool, throughTitle);
+    Framed framed;
+    if (!frameless) {
+        framed.window.overrideWindowFlags(Qt::Window);
+        framed.window.move(200, 150);
+    }
+    framed.bar->move(1, 1);
+    framed.window.show();
+    QCOMPARE(framed.window.pos(), QPoint(200, 150));
+    const QPoint frame = framed.window.geometry().topLeft() - QPoint(200, 150);
+    QCOMPARE(frame.isNull(), frameless);
+
+    QWidget* const pressed
+        = throughTitle ? framed.bar->titleLabel : static_cast<QWidget*>(framed.bar);
+    const QPoint inWindow = pressed->mapTo(&framed.window, QPoint(7, 9));
+    const QPoint global = QPoint(900, 600) + frame + inWindow;
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(7, 9), inWindow, global, Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    press.setTimestamp(123456);
+    QCoreApplication::sendEvent(pressed, &press);
+    QCOMPARE(framed.bar->dragOffset, frame + inWindow);
+    mouse(framed.bar, QEvent::MouseMove, global + QPoint(60, 30));
+    QCOMPARE(framed.window.pos(), QPoint(960, 630));
+    mouse(framed.bar, QEvent::MouseMove, global + QPoint(70, 20));
+    QCOMPARE(framed.window.pos(), QPoint(970, 620));
+
+    // An event made by hand has no time, and need not know where it is.
+    framed.window.move(200, 150);
+    mouse(framed.bar, QEvent::MouseButtonRelease, global);
+    QMouseEvent made(QEvent::MouseButtonPress, QPoint(7, 9), QPoint(320, 180), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(framed.bar, &made);
+    QCOMPARE(framed.bar->dragOffset, QPoint(120, 30));
 }
 
 void tst_CaptionBar::titleMakesRoom()

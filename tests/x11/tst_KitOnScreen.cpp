@@ -1,4 +1,6 @@
 #include "support/TestMain.h"
+#include "tradeConfig/CaptionBar.h"
+#include "tradeConfig/MessageBox.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "x11/Xdotool.h"
 
@@ -33,6 +35,21 @@ public:
     CTableLineEdit* cell;
     bool exposed = false;
 };
+
+/// Where the window really is, whatever the toolkit believes.
+QPoint placeOf(const QWidget& window)
+{
+    QProcess process;
+    process.start(QStringLiteral("xwininfo"),
+                  {QStringLiteral("-id"), QString::number(window.winId())});
+    process.waitForFinished(patience);
+    const QString told = QString::fromLatin1(process.readAllStandardOutput());
+    const auto value = [&told](const QString& label) {
+        return told.section(label, 1).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
+    };
+    return {value(QStringLiteral("Absolute upper-left X:")),
+            value(QStringLiteral("Absolute upper-left Y:"))};
+}
 
 /// A key that the user holds down.
 class Held {
@@ -70,6 +87,9 @@ private Q_SLOTS:
     void rightClickPastesNothing();
     void keyHeldInTheCell();
     void keyHeldSinceElsewhere();
+    void boxDraggedAsSoonAsItIsShown_data();
+    void boxDraggedAsSoonAsItIsShown();
+    void boxNarrowedByTheWindowManager();
 };
 
 void tst_KitOnScreen::initTestCase()
@@ -175,6 +195,66 @@ void tst_KitOnScreen::keyHeldSinceElsewhere()
     press({QStringLiteral("q")});
     QTRY_COMPARE_WITH_TIMEOUT(window.cell->text(), QStringLiteral("Q"), patience);
     QCOMPARE(reported.size(), 1);
+}
+
+void tst_KitOnScreen::boxDraggedAsSoonAsItIsShown_data()
+{
+    QTest::addColumn<bool>("atOnce"); // or step by step
+    for (int round = 1; round <= 10; ++round) {
+        QTest::addRow("at once %d", round) << true;
+        QTest::addRow("in steps %d", round) << false;
+    }
+}
+
+void tst_KitOnScreen::boxDraggedAsSoonAsItIsShown()
+{
+    QFETCH(bool, atOnce);
+    CMessageBox box(nullptr, QMessageBox::Question,
+                    QStringLiteral("部分修改需要重启后生效，确定现在重启吗？"),
+                    QStringLiteral("tradeclient"), QMessageBox::Yes | QMessageBox::No, -1);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const QPoint before = placeOf(box);
+    QVERIFY(before.x() > 100 && before.y() > 100); // the window manager's choice, not the corner
+    const QPoint grip = before + box.caption->mapTo(&box, box.caption->rect().center());
+    const QStringList take{QStringLiteral("mousemove"), QString::number(grip.x()),
+                           QString::number(grip.y()), QStringLiteral("mousedown"),
+                           QStringLiteral("1")};
+    const QStringList step{QStringLiteral("mousemove_relative"), QStringLiteral("20"),
+                           QStringLiteral("10")};
+    const QStringList leave{QStringLiteral("mouseup"), QStringLiteral("1")};
+    if (atOnce) {
+        xdotool(take + step + step + step + leave);
+    } else {
+        for (const QStringList& part : {take, step, step, step, leave}) {
+            xdotool(part);
+            QCoreApplication::processEvents();
+        }
+    }
+    const auto isThere = [&] {
+        const QPoint off = placeOf(box) - before - QPoint(60, 30);
+        return qMax(qAbs(off.x()), qAbs(off.y())) <= 2;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isThere(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(box.caption->dragOffset.isNull(), patience);
+    QVERIFY(isThere());
+}
+
+void tst_KitOnScreen::boxNarrowedByTheWindowManager()
+{
+    CMessageBox box(nullptr, QMessageBox::Question,
+                    QStringLiteral("Some changes need a restart. ").repeated(5),
+                    QStringLiteral("tradeclient"), QMessageBox::Yes | QMessageBox::No, -1);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    const QSize narrow(box.minimumWidth() + 20, 500);
+    QVERIFY(narrow.width() < box.width() - 100);
+    xdotool({QStringLiteral("windowsize"), QString::number(box.winId()),
+             QString::number(narrow.width()), QString::number(narrow.height())});
+    QTRY_COMPARE_WITH_TIMEOUT(box.size(), narrow, patience);
+    const int needed = box.msg->heightForWidth(box.msg->width());
+    QVERIFY(needed > 70 && needed < 400);
+    QVERIFY(box.msg->height() >= needed);
 }
 
 TRADECONFIG_TEST_MAIN(tst_KitOnScreen)
