@@ -42,6 +42,25 @@ QFont fittingFont(QFont font, int height)
     return font;
 }
 
+// Takes what is left of the row as long as nothing among the buttons asks for it.
+class TitleItem : public QWidgetItem {
+public:
+    TitleItem(QLabel* title, const QLayout& buttons)
+        : QWidgetItem(title)
+        , m_buttons(buttons)
+    {
+    }
+
+    Qt::Orientations expandingDirections() const override
+    {
+        const bool yields = isEmpty() || m_buttons.expandingDirections().testFlag(Qt::Horizontal);
+        return yields ? Qt::Orientations() : Qt::Horizontal;
+    }
+
+private:
+    const QLayout& m_buttons;
+};
+
 } // namespace
 
 CCaptionBar::CCaptionBar(QWidget* parent)
@@ -52,12 +71,12 @@ CCaptionBar::CCaptionBar(QWidget* parent)
 
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(5, 3, 5, 3);
+    buttonLayout = new QHBoxLayout;
+    buttonLayout->setSpacing(ButtonSpacing);
     if (flags.testFlag(Qt::WindowSystemMenuHint))
         addLogo(row);
     if (flags.testFlag(Qt::WindowTitleHint))
         addTitle(row);
-    buttonLayout = new QHBoxLayout;
-    buttonLayout->setSpacing(ButtonSpacing);
     row->addLayout(buttonLayout);
     // Without a title to fill the row the buttons still stand at its end.
     row->setAlignment(buttonLayout, Qt::AlignRight);
@@ -99,7 +118,7 @@ void CCaptionBar::addTitle(QHBoxLayout* row)
     titleLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     titleLabel->setAlignment(Qt::AlignVCenter);
     connect(window(), &QWidget::windowTitleChanged, titleLabel, &QLabel::setText);
-    row->addWidget(titleLabel, 1);
+    row->addItem(new TitleItem(titleLabel, *buttonLayout));
 }
 
 CImageButton* CCaptionBar::addWindowButton(void (CCaptionBar::*onClicked)())

@@ -32,7 +32,7 @@ public:
     void setTitle(const char* title);
 
     /// Appends @p widget behind the window buttons and takes it as a child. Does nothing for a
-    /// widget that is a child of this bar already.
+    /// widget that is a child of this bar already. One that expands gets what the title leaves.
     void addCaptionWidget(QWidget* widget);
 
     /// Appends @p item behind the window buttons and takes ownership of it.

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTranslator>
@@ -28,6 +29,10 @@ private Q_SLOTS:
     void titleIsShownAsItIs();
     void titleIsNotCut();
     void widgetsAndItemsAreAppended();
+    void addedPartsGetTheRoomTheyAskFor_data();
+    void addedPartsGetTheRoomTheyAskFor();
+    void expandingItemGetsTheRoom();
+    void expandingWidgetComesAndGoes();
     void textsAreTranslated();
     void minimizes();
     void maximizesAndRestores();
@@ -372,6 +377,100 @@ void tst_CaptionBar::widgetsAndItemsAreAppended()
     framed.window.show();
     QCOMPARE(widget->geometry(), QRect(345, 10, 20, 10));
     QCOMPARE(bar.closeButton->x(), 321);
+}
+
+void tst_CaptionBar::addedPartsGetTheRoomTheyAskFor_data()
+{
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<int>("hints"); // which parts there are
+    QTest::addColumn<bool>("getsTheRest");
+    const int all = int(AllHints);
+    const int noTitle = int(AllHints & ~Qt::WindowTitleHint);
+    QTest::newRow("Expanding") << int(QSizePolicy::Expanding) << all << true;
+    QTest::newRow("MinimumExpanding") << int(QSizePolicy::MinimumExpanding) << all << true;
+    QTest::newRow("Preferred") << int(QSizePolicy::Preferred) << all << false;
+    QTest::newRow("Minimum") << int(QSizePolicy::Minimum) << all << false;
+    QTest::newRow("Fixed") << int(QSizePolicy::Fixed) << all << false;
+    QTest::newRow("Expanding, no title") << int(QSizePolicy::Expanding) << noTitle << true;
+    QTest::newRow("Preferred, no title") << int(QSizePolicy::Preferred) << noTitle << false;
+    QTest::newRow("Expanding, alone") << int(QSizePolicy::Expanding) << 0 << true;
+}
+
+void tst_CaptionBar::addedPartsGetTheRoomTheyAskFor()
+{
+    QFETCH(int, policy);
+    QFETCH(int, hints);
+    QFETCH(bool, getsTheRest);
+    class Hinted : public QWidget {
+    public:
+        QSize sizeHint() const override { return {50, 12}; }
+    };
+    Framed framed{Qt::WindowFlags(hints)};
+    const CCaptionBar& bar = *framed.bar;
+    framed.window.setWindowTitle(QStringLiteral("交易设置"));
+    auto* const added = new Hinted;
+    added->setSizePolicy(QSizePolicy::Policy(policy), QSizePolicy::Fixed);
+    framed.bar->addCaptionWidget(added);
+    framed.window.show();
+    added->show();
+    QCoreApplication::sendPostedEvents();
+
+    // At the end of the row, whatever its width.
+    QCOMPARE(added->geometry().right(), 400 - 5 - 1);
+    QCOMPARE(added->height(), 12);
+    if (!getsTheRest) {
+        QCOMPARE(added->width(), 50);
+        return;
+    }
+    // The title has what it needs and the buttons what they are; the rest is the widget's.
+    const int needed = bar.titleLabel ? bar.titleLabel->sizeHint().width() : 0;
+    if (bar.titleLabel)
+        QCOMPARE(bar.titleLabel->width(), needed);
+    const int buttons = hints == 0 ? 0 : 3 * 14 + 3 * 10;
+    const int logo = hints == 0 ? 0 : 12;
+    QVERIFY(added->width() <= 400 - 10 - logo - needed - buttons);
+    QVERIFY(added->width() > 400 - 10 - logo - needed - buttons - 30); // spacing between the parts
+}
+
+void tst_CaptionBar::expandingItemGetsTheRoom()
+{
+    Framed framed;
+    framed.window.setWindowTitle(QStringLiteral("交易设置"));
+    framed.bar->addCaptionItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
+    auto* const last = new QWidget;
+    last->setFixedSize(20, 10);
+    framed.bar->addCaptionWidget(last);
+    framed.window.show();
+    QCOMPARE(framed.bar->titleLabel->width(), framed.bar->titleLabel->sizeHint().width());
+    QCOMPARE(last->geometry(), QRect(375, 10, 20, 10));
+    QVERIFY(framed.bar->closeButton->geometry().right() < 200);
+}
+
+void tst_CaptionBar::expandingWidgetComesAndGoes()
+{
+    Framed framed;
+    framed.window.setWindowTitle(QStringLiteral("交易设置"));
+    auto* const edit = new QLineEdit;
+    edit->hide();
+    framed.bar->addCaptionWidget(edit);
+    framed.window.show();
+    QCOMPARE(framed.bar->closeButton->geometry(), QRect(381, 8, 14, 14));
+    const int alone = framed.bar->titleLabel->width();
+    QVERIFY(alone > 290);
+    edit->show();
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(edit->width() > 200);
+    edit->hide();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(framed.bar->titleLabel->width(), alone);
+    // A longer title takes from the edit, not the other way round.
+    edit->show();
+    framed.window.setWindowTitle(QStringLiteral("交易设置交易设置交易设置"));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(framed.bar->titleLabel->width(), framed.bar->titleLabel->sizeHint().width());
+    delete edit;
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(framed.bar->titleLabel->width(), alone);
 }
 
 void tst_CaptionBar::textsAreTranslated()
