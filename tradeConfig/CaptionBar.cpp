@@ -113,12 +113,18 @@ void CCaptionBar::addTitle(QHBoxLayout* row)
 {
     titleLabel = new QLabel(window()->windowTitle(), this);
     titleLabel->setTextFormat(Qt::PlainText);
-    titleLabel->setFont(fittingFont(titleLabel->font(), TitleHeight));
+    fitTitle();
     titleLabel->setFixedHeight(TitleHeight);
     titleLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     titleLabel->setAlignment(Qt::AlignVCenter);
     connect(window(), &QWidget::windowTitleChanged, titleLabel, &QLabel::setText);
     row->addItem(new TitleItem(titleLabel, *buttonLayout));
+}
+
+void CCaptionBar::fitTitle()
+{
+    titleLabel->setFont(QFont()); // the window's again
+    titleLabel->setFont(fittingFont(titleLabel->font(), TitleHeight));
 }
 
 CImageButton* CCaptionBar::addWindowButton(void (CCaptionBar::*onClicked)())
@@ -241,6 +247,13 @@ void CCaptionBar::paintEvent(QPaintEvent*)
     CorvelSkin::CSkin::Instance()->fillRect(painter, QRectF(rect()),
                                             window()->isModal() ? SkinKeys::Colour::PopupCaption()
                                                                 : SkinKeys::Colour::FrameCaption());
+}
+
+void CCaptionBar::changeEvent(QEvent* event)
+{
+    if (titleLabel && event->type() == QEvent::FontChange)
+        fitTitle();
+    QWidget::changeEvent(event);
 }
 
 bool CCaptionBar::eventFilter(QObject* watched, QEvent* event)

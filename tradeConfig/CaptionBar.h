@@ -51,6 +51,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     CImageButton* logoButton = nullptr;
@@ -66,6 +67,7 @@ protected:
 private:
     void addLogo(QHBoxLayout* row);
     void addTitle(QHBoxLayout* row);
+    void fitTitle();
     CImageButton* addWindowButton(void (CCaptionBar::*onClicked)());
     void showMaximizeState();
 };

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void titleMayBeAbsent();
     void titleIsShownAsItIs();
     void titleIsNotCut();
+    void titleFontFollowsTheWindow();
     void widgetsAndItemsAreAppended();
     void addedPartsGetTheRoomTheyAskFor_data();
     void addedPartsGetTheRoomTheyAskFor();
@@ -349,6 +350,53 @@ void tst_CaptionBar::titleIsNotCut()
         QCOMPARE(ink(*bar.titleLabel), ink(roomy));
     }
     QApplication::setFont(usual);
+}
+
+void tst_CaptionBar::titleFontFollowsTheWindow()
+{
+    Framed framed;
+    framed.window.show();
+    const QLabel& title = *framed.bar->titleLabel;
+    const QFont usual = title.font();
+    const auto height = [&title] { return QFontMetrics(title.font()).height(); };
+    QFont font = framed.window.font();
+
+    font.setPixelSize(40);
+    font.setBold(true);
+    framed.window.setFont(font);
+    QVERIFY(height() <= 14);
+    QVERIFY(QFontInfo(title.font()).pixelSize() >= 9);
+    QVERIFY(title.font().bold());
+    const QFont largest = title.font();
+
+    font.setPixelSize(7);
+    font.setBold(false);
+    framed.window.setFont(font);
+    QCOMPARE(QFontInfo(title.font()).pixelSize(), 7);
+    QVERIFY(!title.font().bold());
+
+    font.setPixelSize(60);
+    font.setBold(true);
+    framed.window.setFont(font);
+    QCOMPARE(QFontInfo(title.font()).pixelSize(), QFontInfo(largest).pixelSize());
+
+    framed.window.setFont(QFont());
+    QCOMPARE(title.font(), usual);
+
+    // The bar's own font, and that of the application.
+    font.setPixelSize(8);
+    framed.bar->setFont(font);
+    QCOMPARE(QFontInfo(title.font()).pixelSize(), 8);
+    framed.bar->setFont(QFont());
+    const QFont application = QApplication::font();
+    QApplication::setFont(font);
+    QCOMPARE(QFontInfo(title.font()).pixelSize(), 8);
+    QApplication::setFont(application);
+    QCOMPARE(title.font(), usual);
+
+    Framed untitled(Qt::WindowCloseButtonHint);
+    untitled.window.setFont(font);
+    QVERIFY(!untitled.bar->titleLabel);
 }
 
 void tst_CaptionBar::widgetsAndItemsAreAppended()
