@@ -14,11 +14,14 @@
 
 namespace {
 
-constexpr int LogoSize = 12;
-constexpr int TitleHeight = 14;
-constexpr int ButtonSize = 14;
-constexpr int ButtonSpacing = 10;
-constexpr int StateFrames = 3;
+constexpr int logoSize = 12;
+constexpr int titleHeight = 14;
+constexpr int buttonSize = 14;
+constexpr int buttonSpacing = 10;
+
+// How many frames the images have: one, or one for each of normal, mouse over and pressed.
+constexpr int logoFrames = 1;
+constexpr int buttonFrames = 3;
 
 void makeFixed(CImageButton* button, int size)
 {
@@ -72,7 +75,7 @@ CCaptionBar::CCaptionBar(QWidget* parent)
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(5, 3, 5, 3);
     buttonLayout = new QHBoxLayout;
-    buttonLayout->setSpacing(ButtonSpacing);
+    buttonLayout->setSpacing(buttonSpacing);
     if (flags.testFlag(Qt::WindowSystemMenuHint))
         addLogo(row);
     if (flags.testFlag(Qt::WindowTitleHint))
@@ -83,7 +86,7 @@ CCaptionBar::CCaptionBar(QWidget* parent)
 
     if (flags.testFlag(Qt::WindowMinimizeButtonHint)) {
         minimizeButton = addWindowButton(&CCaptionBar::clickMinimize);
-        minimizeButton->setSingleImage(SkinKeys::Image::win_minimize(), StateFrames, true, false);
+        minimizeButton->setSingleImage(SkinKeys::Image::win_minimize(), buttonFrames, true, false);
         //: Tooltip of the caption button that minimises the window
         describe(minimizeButton, tr("最小化"));
     }
@@ -103,9 +106,9 @@ CCaptionBar::CCaptionBar(QWidget* parent)
 void CCaptionBar::addLogo(QHBoxLayout* row)
 {
     logoButton = new CImageButton(this);
-    logoButton->setSingleImage(SkinKeys::Image::logo(), 1, false, true);
+    logoButton->setSingleImage(SkinKeys::Image::logo(), logoFrames, false, true);
     logoButton->setAccessibleName(QGuiApplication::applicationDisplayName());
-    makeFixed(logoButton, LogoSize);
+    makeFixed(logoButton, logoSize);
     row->addWidget(logoButton);
 }
 
@@ -114,7 +117,7 @@ void CCaptionBar::addTitle(QHBoxLayout* row)
     titleLabel = new QLabel(window()->windowTitle(), this);
     titleLabel->setTextFormat(Qt::PlainText);
     fitTitle();
-    titleLabel->setFixedHeight(TitleHeight);
+    titleLabel->setFixedHeight(titleHeight);
     titleLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     titleLabel->setAlignment(Qt::AlignVCenter);
     connect(window(), &QWidget::windowTitleChanged, titleLabel, &QLabel::setText);
@@ -124,13 +127,13 @@ void CCaptionBar::addTitle(QHBoxLayout* row)
 void CCaptionBar::fitTitle()
 {
     titleLabel->setFont(QFont()); // the window's again
-    titleLabel->setFont(fittingFont(titleLabel->font(), TitleHeight));
+    titleLabel->setFont(fittingFont(titleLabel->font(), titleHeight));
 }
 
 CImageButton* CCaptionBar::addWindowButton(void (CCaptionBar::*onClicked)())
 {
     auto* const button = new CImageButton(this);
-    makeFixed(button, ButtonSize);
+    makeFixed(button, buttonSize);
     connect(button, &QAbstractButton::clicked, this, onClicked);
     buttonLayout->addWidget(button);
     return button;
@@ -141,7 +144,7 @@ void CCaptionBar::showMaximizeState()
     const bool maximized = window()->isMaximized();
     maximizeButton->setSingleImage(maximized ? SkinKeys::Image::win_renew()
                                              : SkinKeys::Image::win_normal(),
-                                   StateFrames, true, false);
+                                   buttonFrames, true, false);
     //: Tooltips of the caption button that restores or maximises the window
     describe(maximizeButton, maximized ? tr("还原") : tr("最大化"));
 }

@@ -27,10 +27,10 @@ void CImageButton::setImage(const QString& normal, const QString& hover,
                             const QString& whilePressed, const QString& disabled)
 {
     Q_ASSERT(!normal.isEmpty());
-    imageMode = SeparateImages;
+    imageMode = separateImages;
     normalImage = normal;
     hoverImage = hover.isEmpty() ? normal : hover;
-    // A button with two images answers a press with what it shows under the pointer.
+    // The hover image, not the normal one: a button is pressed under the pointer.
     pressedImage = whilePressed.isEmpty() ? hoverImage : whilePressed;
     disabledImage = disabled.isEmpty() ? normal : disabled;
     update();
@@ -100,12 +100,11 @@ const QString& CImageButton::stateImage() const
 void CImageButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    if (imageMode == SeparateImages) {
-        CorvelSkin::CSkin::Instance()->drawImage(painter, QRectF(rect()), stateImage(), 1, 0,
-                                                 firstOption, secondOption);
-    } else if (imageMode != 0) {
-        CorvelSkin::CSkin::Instance()->drawImage(painter, QRectF(rect()), normalImage, imageMode,
-                                                 stripFrame(), firstOption, secondOption);
+    if (imageMode != noImage) {
+        const bool isStrip = imageMode != separateImages;
+        CorvelSkin::CSkin::Instance()->drawImage(
+            painter, QRectF(rect()), isStrip ? normalImage : stateImage(), isStrip ? imageMode : 1,
+            isStrip ? stripFrame() : 0, firstOption, secondOption);
     }
     if (showText && !text().isEmpty())
         painter.drawText(rect().adjusted(textIndent, 0, 0, 0), Qt::AlignCenter, text());

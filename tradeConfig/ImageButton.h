@@ -40,9 +40,10 @@ protected:
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
-    static constexpr int SeparateImages = 5;
+    static constexpr int noImage = 0;
+    static constexpr int separateImages = 5;
 
-    int imageMode = 0; ///< 1..4 one strip of that many frames, 5 separate images, 0 no image yet
+    int imageMode = noImage; ///< 1..4: one strip of that many frames
     QString normalImage; ///< the strip in modes 1..4
     QString hoverImage;
     QString pressedImage;

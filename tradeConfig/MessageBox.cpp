@@ -11,12 +11,15 @@
 
 namespace {
 
-constexpr int NoCountdown = -1;
-constexpr int CaptionHeight = 30;
-constexpr int ButtonRowHeight = 25;
-constexpr QSize RoomWithIcon(200, 100);
-constexpr QSize RoomWithoutIcon(160, 80);
+constexpr int noCountdown = -1;
+constexpr int tickMilliseconds = 1000;
+constexpr int captionHeight = 30;
+constexpr int buttonRowHeight = 25;
+// What the box has around its text.
+constexpr QSize roomWithIcon(200, 100);
+constexpr QSize roomWithoutIcon(160, 80);
 
+// Has this name because the text of the assertion below is fixed: "index < _countof(btns)".
 template <typename T, std::size_t N> constexpr std::size_t _countof(T (&)[N]) { return N; }
 
 struct IconRow {
@@ -67,13 +70,11 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     : QDialog(parent)
     , countdown(timeoutSeconds)
 {
-    // The caption bar reads the window's flags while the form is built; the hint comes after, so
-    // that it finds the usual ones of a dialog.
     setupUi(this);
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    caption->setFixedHeight(CaptionHeight);
+    caption->setFixedHeight(captionHeight);
     // What is left over goes above the buttons.
-    verticalLayout->setStretch(2, 1);
+    verticalLayout->setStretchFactor(layout2, 1);
     verticalLayout->setAlignment(layout2, Qt::AlignHCenter | Qt::AlignBottom);
     QPushButton* const inOrder[] = {btn1, btn2, btn3, btn4, btn5, btn6};
     std::copy(std::begin(inOrder), std::end(inOrder), btns);
@@ -81,7 +82,7 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     showIcon(iconKind);
     msg->setText(text);
     msg->adjustSize();
-    QSize size = msg->sizeHint() + (icon->isHidden() ? RoomWithoutIcon : RoomWithIcon);
+    QSize size = msg->sizeHint() + (icon->isHidden() ? roomWithoutIcon : roomWithIcon);
     setWindowTitle(title);
     caption->setFrameEnabled(true);
     assignButtons(buttons);
@@ -89,10 +90,10 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     if (countdown >= 1) {
         showCountdown();
         btn1->setDefault(true);
-        startTimer(1000, Qt::CoarseTimer);
+        startTimer(tickMilliseconds, Qt::CoarseTimer);
     }
     if (!btn1->isHidden())
-        size.rheight() += ButtonRowHeight;
+        size.rheight() += buttonRowHeight;
     resize(size);
     setWindowModality(Qt::WindowModal);
 }
@@ -172,7 +173,7 @@ int CMessageBox::message(QWidget* parent, QMessageBox::Icon iconKind, const QStr
 int CMessageBox::message(QWidget* parent, QMessageBox::Icon iconKind, const QString& text,
                          const QString& title, QMessageBox::StandardButtons buttons)
 {
-    return CMessageBox(parent, iconKind, text, title, buttons, NoCountdown).exec();
+    return CMessageBox(parent, iconKind, text, title, buttons, noCountdown).exec();
 }
 
 int CMessageBox::timeout(QWidget* parent, QMessageBox::Icon iconKind, const QString& text,

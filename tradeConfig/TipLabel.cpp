@@ -5,8 +5,8 @@
 
 namespace {
 
-constexpr int FadeMilliseconds = 2500;
-constexpr double OpaquePart = 0.6;
+constexpr int fadeMilliseconds = 2500;
+constexpr double opaquePart = 0.6;
 
 /**
  * An animation of an effect's opacity that runs to its end even when the effect is replaced.
@@ -47,7 +47,7 @@ CTipLabel::CTipLabel(const QString& text, bool isError, QWidget* parent)
 void CTipLabel::SetMessageLabel(const QString& text)
 {
     setText(text);
-    // A fade that has ended leaves the label transparent; a new message is to be seen.
+    // After a fade the label is transparent, and would stay so when the caller shows it.
     auto* const effect = qobject_cast<QGraphicsOpacityEffect*>(graphicsEffect());
     if (effect && qFuzzyIsNull(effect->opacity()))
         effect->setOpacity(1.0);
@@ -60,9 +60,9 @@ void CTipLabel::SetAutoHide()
     setGraphicsEffect(effect);
 
     auto* const fade = new Fade(effect, QByteArrayLiteral("opacity"), this);
-    fade->setDuration(FadeMilliseconds);
+    fade->setDuration(fadeMilliseconds);
     fade->setStartValue(1.0);
-    fade->setKeyValueAt(OpaquePart, 1.0);
+    fade->setKeyValueAt(opaquePart, 1.0);
     fade->setEndValue(0.0);
     fade->start(QAbstractAnimation::DeleteWhenStopped);
     connect(fade, &QAbstractAnimation::finished, this, &QWidget::hide);

@@ -25,6 +25,7 @@ public:
     /// set, he can only take characters, or put a number in range in its place.
     void guard(QLineEdit& edit) const;
 
-    /// Intermediate: empty, or below the bottom but still growing. Invalid: refused as typed.
+    /// Intermediate: empty, or below the bottom, which another digit may change. Invalid: all that
+    /// is not to be typed.
     State validate(QString& input, int& position) const override;
 };
