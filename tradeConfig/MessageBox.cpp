@@ -4,6 +4,7 @@
 #include "tradeConfig/skin/SkinKeys.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -78,6 +79,9 @@ CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QStr
     verticalLayout->setAlignment(layout2, Qt::AlignHCenter | Qt::AlignBottom);
     QPushButton* const inOrder[] = {btn1, btn2, btn3, btn4, btn5, btn6};
     std::copy(std::begin(inOrder), std::end(inOrder), btns);
+    installEventFilter(this);
+    for (QPushButton* const button : btns)
+        button->installEventFilter(this);
 
     showIcon(iconKind);
     msg->setText(text);
@@ -162,6 +166,18 @@ void CMessageBox::showEvent(QShowEvent* event)
     // Nothing is ever cut: a row of wide buttons or a tall icon may need more than was computed.
     resize(size().expandedTo(layout()->totalSizeHint()));
     QDialog::showEvent(event);
+}
+
+bool CMessageBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto& press = *static_cast<QKeyEvent*>(event);
+        const bool answers = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter
+            || press.matches(QKeySequence::Cancel);
+        if (answers && press.isAutoRepeat())
+            return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 int CMessageBox::message(QWidget* parent, QMessageBox::Icon iconKind, const QString& text,

@@ -11,7 +11,8 @@
  *
  * The static functions build a box, run it modally and return the QMessageBox::StandardButton
  * of the pressed button, or QDialog::Rejected (0) when the box was closed in another way: through
- * its caption bar or with Escape. Where no title is given it is the application's name.
+ * its caption bar or with Escape. A key that is held since before the box came answers nothing.
+ * Where no title is given it is the application's name.
  */
 class CMessageBox : public QDialog, public Ui_CMessageBox {
     Q_OBJECT
@@ -43,6 +44,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     QPushButton* btns[6];
     int countdown; ///< seconds that are still to be shown

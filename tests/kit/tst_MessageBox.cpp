@@ -44,6 +44,8 @@ private Q_SLOTS:
     void closingByOtherWays();
     void returnPressesTheDefault_data();
     void returnPressesTheDefault();
+    void heldKeyAnswersNothing_data();
+    void heldKeyAnswersNothing();
     void tabWalksTheButtons();
     void countdownByTicks_data();
     void countdownByTicks();
@@ -551,6 +553,44 @@ void tst_MessageBox::returnPressesTheDefault()
         });
         QCOMPARE(box.exec(), result);
     }
+}
+
+void tst_MessageBox::heldKeyAnswersNothing_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("result");
+    QTest::newRow("Return") << int(Qt::Key_Return) << 0x4000;
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << 0x4000;
+    QTest::newRow("Space") << int(Qt::Key_Space) << 0x4000;
+    QTest::newRow("Escape") << int(Qt::Key_Escape) << 0;
+}
+
+// The key that opened the box may still be down.
+void tst_MessageBox::heldKeyAnswersNothing()
+{
+    QFETCH(int, key);
+    QFETCH(int, result);
+    Box box(QMessageBox::Yes | QMessageBox::No);
+    box.setResult(77);
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    for (QWidget* const receiver : {static_cast<QWidget*>(box.btn1), static_cast<QWidget*>(&box)}) {
+        for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent repeat(type, key, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(receiver, &repeat);
+        }
+    }
+    QVERIFY(box.isVisible());
+    QCOMPARE(box.result(), 77);
+    // The focus still walks while a key is held.
+    QKeyEvent walk(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(box.btn1, &walk);
+    QCOMPARE(QApplication::focusWidget(), box.btn2);
+    box.btn1->setFocus();
+
+    QTest::keyClick(box.btn1, Qt::Key(key));
+    QVERIFY(!box.isVisible());
+    QCOMPARE(box.result(), result);
 }
 
 void tst_MessageBox::tabWalksTheButtons()
