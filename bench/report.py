@@ -66,6 +66,8 @@ class Report:
 
     def fillings(self, figures, form, judged):
         """growth: what ten times as many items cost; 10 is linear, 100 quadratic."""
+        if not self.complete and not any(FILLED.match(name) for name in figures):
+            return
         print(f"\n{'filling a bar':28}{'n':>8}{'module':>16}{'growth':>8}{'QTabBar':>16}{'growth':>8}"
               f"{'ratio':>8}")
         for how, count in FILLINGS:
