@@ -8,6 +8,12 @@ DataDirectory::DataDirectory(const QString& home)
 {
 }
 
+QString DataDirectory::homeIn(const char* buffer)
+{
+    constexpr uint bufferSize = 512;
+    return QString::fromUtf8(buffer, int(qstrnlen(buffer, bufferSize)));
+}
+
 QString DataDirectory::configDirectory() const { return m_home + QStringLiteral("/config"); }
 
 QString DataDirectory::recordFile() const

@@ -11,6 +11,10 @@ public:
     /// @p home as the module's ApplicationHomePath() gives it; may be relative.
     explicit DataDirectory(const QString& home);
 
+    /// The path in a buffer as ApplicationHomePath() fills it: 512 bytes, terminated only if the
+    /// path is shorter.
+    static QString homeIn(const char* buffer);
+
     QString home() const { return m_home; }
     QString configDirectory() const;
     /// The trade record.

@@ -1,5 +1,7 @@
 #include "client/SettingsModule.h"
 
+#include "client/DataDirectory.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
@@ -50,7 +52,7 @@ QString SettingsModule::load(const QString& fileName)
     return QString();
 }
 
-QString SettingsModule::homePath() const { return QString::fromUtf8(m_home()); }
+QString SettingsModule::homePath() const { return DataDirectory::homeIn(m_home()); }
 
 QWidget* SettingsModule::createDialog(KivoTrade::ITrade* trade) const
 {
