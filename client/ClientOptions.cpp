@@ -40,13 +40,6 @@ struct Parser : QCommandLineParser {
 
 } // namespace
 
-QString ClientOptions::moduleFile()
-{
-    Parser parser;
-    parser.parse(QCoreApplication::arguments());
-    return parser.value(parser.module);
-}
-
 ClientOptions ClientOptions::parse()
 {
     Parser parser;

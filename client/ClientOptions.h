@@ -15,8 +15,8 @@ public:
     bool gallery = false; ///< the kit's widgets instead of the client
     int scalePercent = 0; ///< 100..300; 0: the one of the settings
 
-    /// The module that the arguments ask for, whatever else they say. Says nothing.
-    static QString moduleFile();
+    /// Whether something is shown or written of what is there, and no client is started.
+    bool onlyReads() const { return printRecord || gallery || !screenshotDirectory.isEmpty(); }
 
     /// Reads the arguments of the running application. Ends the process for --help and
     /// --version (status 0) and for arguments that it does not know (status 1).

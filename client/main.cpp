@@ -2,6 +2,8 @@
 #include "appearance/SkinSwitcher.h"
 #include "client/ClientOptions.h"
 #include "client/DataDirectory.h"
+#include "client/ExpectedHome.h"
+#include "client/Identity.h"
 #include "client/Instance.h"
 #include "client/InterfaceScale.h"
 #include "client/MainWindow.h"
@@ -30,8 +32,8 @@ struct Client {
 
 void setIdentity()
 {
-    QCoreApplication::setOrganizationDomain(QStringLiteral("kivotrade.com"));
-    QCoreApplication::setApplicationName(QStringLiteral("tradeclient"));
+    QCoreApplication::setOrganizationDomain(QLatin1String(Identity::domain));
+    QCoreApplication::setApplicationName(QLatin1String(Identity::name));
     QCoreApplication::setApplicationVersion(QStringLiteral(CLIENT_VERSION));
 }
 
@@ -84,19 +86,39 @@ int tellPictures(const Pictures& pictures)
     return pictures.failure.isEmpty() ? EXIT_SUCCESS : fail(pictures.failure);
 }
 
-// The data directory as the module sees it; when that one failed, as the program's own does, if
-// there is one: what failed is told in the user's language. Empty if nobody knows.
-QString homeOf(const SettingsModule& module, const QString& moduleFailure)
+// Chooses what to draw on. False when that takes a display and there is none.
+bool chooseDisplay(bool onlyPictures)
 {
-    SettingsModule own;
-    if (!moduleFailure.isEmpty() && !own.load().isEmpty())
-        return QString();
-    const QString home = (moduleFailure.isEmpty() ? module : own).homePath();
-    // The question has made the directory. Whoever only asks for help leaves nothing behind; a
-    // directory that holds something stays.
-    QDir().rmdir(home);
-    return home;
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return true;
+    if (onlyPictures)
+        return qputenv("QT_QPA_PLATFORM", "offscreen");
+    return CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
+        || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
+
+// Makes the data directory where there is none, for the module to find it, and takes it away again.
+class BorrowedHome {
+public:
+    BorrowedHome()
+    {
+        for (QString part = ExpectedHome::path(); !QFileInfo::exists(part);
+             part = QFileInfo(part).path())
+            m_made += part;
+        failure = ExpectedHome::make();
+    }
+    ~BorrowedHome()
+    {
+        for (const QString& part : qAsConst(m_made))
+            QDir().rmdir(part);
+    }
+    Q_DISABLE_COPY(BorrowedHome)
+
+    QString failure;
+
+private:
+    QStringList m_made;
+};
 
 int printRecord(const DataDirectory& directory)
 {
@@ -113,6 +135,9 @@ int printRecord(const DataDirectory& directory)
 
 int writePages(const SettingsModule& module, const DataDirectory& directory, const QString& target)
 {
+    const BorrowedHome home;
+    if (!home.failure.isEmpty())
+        return fail(home.failure);
     TradeCore core(directory, TradeCore::Storage::None);
     const RecordStore::LoadReport report = core.load();
     if (!report.isClean())
@@ -133,9 +158,12 @@ int runGallery(SkinSwitcher& skins, const QString& target)
     return QCoreApplication::exec();
 }
 
-int runClient(const SettingsModule& module, const DataDirectory& directory, SkinSwitcher& skins,
-              const QStringList& arguments)
+int runClient(const SettingsModule& module, SkinSwitcher& skins, const QStringList& arguments)
 {
+    const QString homeless = ExpectedHome::make();
+    if (!homeless.isEmpty())
+        return fail(homeless);
+    const DataDirectory directory(module.homePath());
     Instance instance(directory);
     const QString taken = instance.claim();
     if (!taken.isEmpty())
@@ -175,54 +203,38 @@ int main(int argc, char** argv)
     setIdentity();
     ensureEncoding();
 
-    // Scale and language must be known before the interface exists, and with them the arguments,
-    // the module and the data directory: a first application object without an interface finds
-    // them.
     ClientOptions options;
-    SettingsModule module;
-    QString moduleFailure;
     QStringList arguments;
-    QString home;
     StartSettings settings;
+    SettingsModule module;
+    QString failure;
+    const DataDirectory directory(DataDirectory::homeIn(ExpectedHome::path().toUtf8().constData()));
     {
+        // Scale and language must be known before the interface exists: a first application object
+        // without one finds them.
         QCoreApplication early(argc, argv);
         arguments = QCoreApplication::arguments().mid(1);
-        const QString moduleFile = ClientOptions::moduleFile();
-        moduleFailure = module.load(moduleFile);
-        home = homeOf(module, moduleFailure);
-        if (!home.isEmpty()) {
-            settings = StartSettings::read(DataDirectory(home));
-            settings.installTranslations(&early);
-        }
-
+        settings = StartSettings::read(directory);
+        settings.installTranslations(&early);
         options = ClientOptions::parse();
-        if (!moduleFailure.isEmpty())
-            moduleFailure = module.load(moduleFile); // why, in the user's language
-        const bool wantsPictures = !options.screenshotDirectory.isEmpty();
-        const bool hasDisplay = CLIENT_SYSTEM_HAS_DISPLAY || qEnvironmentVariableIsSet("DISPLAY")
-            || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-        if (!moduleFailure.isEmpty() && (options.printRecord || wantsPictures || !hasDisplay))
-            return fail(moduleFailure);
+        failure = module.load(options.module);
+        if (failure.isEmpty() && options.onlyReads())
+            failure = ExpectedHome::problem();
         if (options.printRecord)
-            return printRecord(DataDirectory(home));
-        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-            if (wantsPictures)
-                qputenv("QT_QPA_PLATFORM", "offscreen");
-            else if (!hasDisplay)
-                return fail(
-                    Client::tr("没有可用的显示。可用 --screenshots 将设置窗口保存为图片。"));
-        }
+            return failure.isEmpty() ? printRecord(directory) : fail(failure);
+        if (!chooseDisplay(!options.screenshotDirectory.isEmpty()))
+            return fail(failure.isEmpty() ? Client::tr(
+                            "没有可用的显示。可用 --screenshots 将设置窗口保存为图片。")
+                                          : failure);
     }
 
-    const DataDirectory directory(home);
     auto scale = std::make_unique<InterfaceScale>(options.scalePercent > 0 ? options.scalePercent
                                                                            : settings.scalePercent);
     QApplication application(argc, argv);
     scale.reset();
     settings.installTranslations(&application);
-
-    if (!moduleFailure.isEmpty())
-        return fail(moduleFailure);
+    if (!failure.isEmpty())
+        return fail(failure);
 
     QApplication::setStyle(new SkinStyle);
     SkinSwitcher skins;
@@ -235,5 +247,5 @@ int main(int argc, char** argv)
         return runGallery(skins, options.screenshotDirectory);
     if (!options.screenshotDirectory.isEmpty())
         return writePages(module, directory, options.screenshotDirectory);
-    return runClient(module, directory, skins, arguments);
+    return runClient(module, skins, arguments);
 }

@@ -725,6 +725,13 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
 </context>
 <context>
+    <name>ExpectedHome</name>
+    <message>
+        <source>无法使用数据目录 %1：%2</source>
+        <translation>Cannot use the data directory %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FileReplace</name>
     <message>
         <source>无法写入 %1：%2</source>

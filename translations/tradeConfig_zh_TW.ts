@@ -725,6 +725,13 @@
     </message>
 </context>
 <context>
+    <name>ExpectedHome</name>
+    <message>
+        <source>无法使用数据目录 %1：%2</source>
+        <translation>無法使用資料目錄 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>FileReplace</name>
     <message>
         <source>无法写入 %1：%2</source>
