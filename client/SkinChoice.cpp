@@ -1,8 +1,7 @@
 #include "client/SkinChoice.h"
 
 #include "client/DataDirectory.h"
-
-#include <QSettings>
+#include "client/PlainSettings.h"
 
 namespace {
 
@@ -12,12 +11,12 @@ QString skinKey() { return QStringLiteral("View/skin"); }
 
 QString SkinChoice::read(const DataDirectory& directory)
 {
-    return QSettings(directory.clientFile(), QSettings::IniFormat).value(skinKey()).toString();
+    return PlainSettings::value(directory.clientFile(), skinKey()).toString();
 }
 
 void SkinChoice::keep(const DataDirectory& directory, const QString& name)
 {
     // Made here, the interface settings come along.
     if (directory.makeConfigDirectory())
-        QSettings(directory.clientFile(), QSettings::IniFormat).setValue(skinKey(), name);
+        PlainSettings::setValue(directory.clientFile(), skinKey(), name);
 }

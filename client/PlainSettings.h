@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/**
+ * Texts and numbers in settings files, whoever wrote them.
+ *
+ * QSettings makes objects of values that begin with "@". Senseless ones throw, take all memory or
+ * end the process, whichever key of their section is asked for. Here they count as absent.
+ */
+namespace PlainSettings {
+
+/// Null when the file or the key is missing. Writes nothing.
+QVariant value(const QString& file, const QString& key);
+
+/// A file that holds more than plain values is begun anew.
+void setValue(const QString& file, const QString& key, const QString& value);
+
+} // namespace PlainSettings
