@@ -15,10 +15,15 @@ QString RecordStore::LoadReport::message() const
 {
     if (isClean())
         return QString();
-    QStringList lines{tr("交易参数文件 %1 无法使用：").arg(file)};
+    const bool whole = damage == Whole;
+    QStringList lines{(whole ? tr("交易参数文件 %1 无法使用，已使用默认值：")
+                             : tr("交易参数文件 %1 中有无效的值，这些参数已使用默认值："))
+                          .arg(file)};
     lines += problems;
-    lines += setAside.isEmpty() ? tr("该文件无法移走，仍在原处。已使用默认值。")
-                                : tr("该文件已移至 %1。已使用默认值。").arg(setAside);
+    if (!setAside.isEmpty())
+        lines += (whole ? tr("该文件已移至 %1。") : tr("该文件的副本保存在 %1。")).arg(setAside);
+    else if (keeping)
+        lines += whole ? tr("该文件无法移走，仍在原处。") : tr("无法保存该文件的副本。");
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -28,61 +33,93 @@ RecordStore::RecordStore(const DataDirectory& directory)
 {
 }
 
-RecordStore::LoadReport RecordStore::load(OwnedRecord& record)
+RecordStore::LoadReport RecordStore::read(OwnedRecord& record)
 {
     record = OwnedRecord();
     m_foreign = QJsonObject();
-    m_mustMoveAside = false;
+    m_toKeep = LoadReport::None;
 
     LoadReport report;
     report.file = m_fileName;
+    const auto unusable = [&](const QString& reason) {
+        report.problems += reason;
+        report.damage = m_toKeep = LoadReport::Whole;
+        return report;
+    };
     const QFileInfo info(m_fileName);
     if (!info.exists() && !info.isSymLink())
         return report;
-
+    if (info.isDir())
+        return unusable(tr("无法读取：%1").arg(tr("是一个目录")));
     QFile file(m_fileName);
-    if (info.isDir() || !file.open(QIODevice::ReadOnly)) {
-        report.problems
-            += tr("无法读取：%1").arg(info.isDir() ? tr("是一个目录") : file.errorString());
-    } else {
-        QJsonParseError error;
-        const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
-        file.close();
-        if (error.error != QJsonParseError::NoError) {
-            report.problems
-                += tr("第 %1 字节处格式错误：%2").arg(error.offset).arg(error.errorString());
-        } else if (!document.isObject()) {
-            report.problems += tr("内容不是 JSON 对象");
-        } else {
-            report.problems = RecordJson::toRecord(document.object(), record);
-            m_foreign = RecordJson::foreignFields(document.object());
-        }
-    }
-    if (report.isClean())
-        return report;
+    if (!file.open(QIODevice::ReadOnly))
+        return unusable(tr("无法读取：%1").arg(file.errorString()));
+    const QByteArray content = file.readAll();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
+    if (error.error != QJsonParseError::NoError)
+        return unusable(tr("第 %1 字节处格式错误：%2").arg(error.offset).arg(error.errorString()));
+    if (!document.isObject())
+        return unusable(tr("内容不是 JSON 对象"));
 
-    record = OwnedRecord();
-    m_foreign = QJsonObject();
-    report.setAside = moveAside();
-    m_mustMoveAside = report.setAside.isEmpty();
+    report.problems = RecordJson::toRecord(document.object(), record);
+    m_foreign = RecordJson::foreignFields(document.object());
+    if (!report.isClean()) {
+        report.damage = m_toKeep = LoadReport::WrongValues;
+        m_wrongFile = content;
+    }
     return report;
 }
 
-QString RecordStore::moveAside() const
+RecordStore::LoadReport RecordStore::load(OwnedRecord& record)
+{
+    LoadReport report = read(record);
+    if (!report.isClean()) {
+        report.keeping = true;
+        report.setAside = keepAside();
+    }
+    return report;
+}
+
+// Returns where the file is kept, or an empty text when that failed.
+QString RecordStore::keepAside()
+{
+    QString place = m_toKeep == LoadReport::WrongValues ? earlierCopy() : QString();
+    if (place.isEmpty()) {
+        const QString fresh = datedName();
+        const bool kept = m_toKeep == LoadReport::Whole ? QFile::rename(m_fileName, fresh)
+                                                        : replaceFile(fresh, m_wrongFile).isEmpty();
+        if (!kept)
+            return QString();
+        place = fresh;
+    }
+    m_toKeep = LoadReport::None;
+    return place;
+}
+
+QString RecordStore::datedName() const
 {
     const QFileInfo info(m_fileName);
+    const QString base = info.absoluteDir().absoluteFilePath(info.completeBaseName());
     const QString stamp
         = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss"));
-    constexpr int mostOfOneSecond = 1000;
-    for (int number = 1; number <= mostOfOneSecond; ++number) {
-        const QString extra = number == 1 ? QString() : QStringLiteral("_%1").arg(number);
-        const QString target = info.absoluteDir().absoluteFilePath(
-            QStringLiteral("%1.%2%3.bad.json").arg(info.completeBaseName(), stamp, extra));
-        // rename() never replaces a file that is there.
-        if (QFile::rename(m_fileName, target))
-            return target;
-        if (!QFileInfo::exists(target))
-            return QString();
+    QString name = QStringLiteral("%1.%2.bad.json").arg(base, stamp);
+    for (int number = 2; QFileInfo::exists(name); ++number)
+        name = QStringLiteral("%1.%2_%3.bad.json").arg(base, stamp).arg(number);
+    return name;
+}
+
+// A client that is started again and again before anything is saved keeps one copy.
+QString RecordStore::earlierCopy() const
+{
+    const QFileInfo info(m_fileName);
+    const QFileInfoList copies = info.absoluteDir().entryInfoList(
+        {info.completeBaseName() + QStringLiteral(".*.bad.json")}, QDir::Files);
+    for (const QFileInfo& copy : copies) {
+        QFile file(copy.absoluteFilePath());
+        if (copy.size() == m_wrongFile.size() && file.open(QIODevice::ReadOnly)
+            && file.readAll() == m_wrongFile)
+            return file.fileName();
     }
     return QString();
 }
@@ -96,11 +133,9 @@ QString RecordStore::save(const OwnedRecord& record)
         return refused.first();
     if (!m_directory.makeConfigDirectory())
         return tr("无法创建目录 %1").arg(m_directory.configDirectory());
-    if (m_mustMoveAside) {
-        if (QFileInfo::exists(m_fileName) && moveAside().isEmpty())
-            return tr("无法移走不可用的文件 %1").arg(m_fileName);
-        m_mustMoveAside = false;
-    }
+    if (m_toKeep != LoadReport::None && QFileInfo::exists(m_fileName) && keepAside().isEmpty())
+        return tr("无法保留不可用的文件 %1").arg(m_fileName);
+    m_toKeep = LoadReport::None;
 
     QJsonObject object = m_foreign;
     for (auto it = own.constBegin(); it != own.constEnd(); ++it)
@@ -113,8 +148,9 @@ void RecordStore::removeLeftovers() const
 {
     const QFileInfo info(m_fileName);
     // Six random letters; only a mix of capitals and small ones is surely not a user's word.
-    const QRegularExpression temporary(QStringLiteral("^%1\\.(?=.*[a-z])(?=.*[A-Z])[A-Za-z]{6}$")
-                                           .arg(QRegularExpression::escape(info.fileName())));
+    const QRegularExpression temporary(
+        QStringLiteral("^%1(\\..+)?\\.json\\.(?=[^.]*[a-z])(?=[^.]*[A-Z])[A-Za-z]{6}$")
+            .arg(QRegularExpression::escape(info.completeBaseName())));
     const QDir directory = info.absoluteDir();
     for (const QString& name : directory.entryList(QDir::Files | QDir::Hidden)) {
         if (temporary.match(name).hasMatch())

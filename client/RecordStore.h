@@ -22,26 +22,34 @@ public:
     /// What loading found.
     struct LoadReport {
         QStringList problems; ///< one sentence for each wrong value; empty when all was well
-        QString setAside; ///< where the unusable file went; empty when it could not be moved
+        QString setAside; ///< where the file as it was is kept; empty when it is not
         bool isClean() const { return problems.isEmpty(); }
         /// The whole story for the user; empty when all was well.
         QString message() const;
 
     private:
         friend class RecordStore;
+        enum Damage { None, WrongValues, Whole };
         QString file;
+        Damage damage = None;
+        bool keeping = false; ///< setting the file aside was tried
     };
 
     explicit RecordStore(const DataDirectory& directory);
 
     QString fileName() const { return m_fileName; }
 
-    /// Fills @p record. A missing file gives the defaults, as does a missing field. An unusable
-    /// file is moved aside under a name of its own and all fields get their defaults.
+    /// Fills @p record. A missing file gives the defaults, as do a missing field and a wrong value;
+    /// of a file that does not parse nothing is used. Changes nothing outside @p record.
+    LoadReport read(OwnedRecord& record);
+
+    /// The same, and keeps a file that is not right under a dated name of its own: a copy of one
+    /// with wrong values, unless there is one, and a file that does not parse itself.
     LoadReport load(OwnedRecord& record);
 
     /// Replaces the file. Returns an empty text, or why it failed; the old file is then as it
-    /// was. A value that load() would refuse is refused here.
+    /// was. A value that read() would refuse is refused here, and so is everything as long as a
+    /// file that was not right could not be kept.
     QString save(const OwnedRecord& record);
 
     /// Removes what writes that were cut short have left. Only the one client that holds the
@@ -52,10 +60,13 @@ public:
     static QByteArray toJson(const OwnedRecord& record);
 
 private:
-    QString moveAside() const;
+    QString keepAside();
+    QString earlierCopy() const;
+    QString datedName() const;
 
     const DataDirectory& m_directory;
     QString m_fileName;
     QJsonObject m_foreign;
-    bool m_mustMoveAside = false;
+    LoadReport::Damage m_toKeep = LoadReport::None;
+    QByteArray m_wrongFile; ///< its content, when it is to be kept for its wrong values
 };

@@ -9,7 +9,8 @@ TradeCore::TradeCore(const DataDirectory& directory, Storage storage, QObject* p
 
 RecordStore::LoadReport TradeCore::load()
 {
-    const RecordStore::LoadReport report = m_store.load(m_record);
+    const RecordStore::LoadReport report
+        = m_storage == Storage::File ? m_store.load(m_record) : m_store.read(m_record);
     m_stored = m_record;
     return report;
 }

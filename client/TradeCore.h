@@ -15,7 +15,7 @@ class TradeCore : public QObject, public KivoTrade::ITrade {
 public:
     enum class Storage {
         File,
-        None ///< commits change nothing outside this process
+        None ///< neither loading nor a commit changes anything outside this process
     };
 
     explicit TradeCore(const DataDirectory& directory, Storage storage = Storage::File,

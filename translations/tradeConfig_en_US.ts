@@ -1860,18 +1860,6 @@ Data directory: %3</translation>
 <context>
     <name>RecordStore</name>
     <message>
-        <source>交易参数文件 %1 无法使用：</source>
-        <translation>The record %1 cannot be used:</translation>
-    </message>
-    <message>
-        <source>该文件无法移走，仍在原处。已使用默认值。</source>
-        <translation>The file could not be moved and is still in its place. Defaults are used.</translation>
-    </message>
-    <message>
-        <source>该文件已移至 %1。已使用默认值。</source>
-        <translation>The file was moved to %1. Defaults are used.</translation>
-    </message>
-    <message>
         <source>无法读取：%1</source>
         <translation>cannot be read: %1</translation>
     </message>
@@ -1892,8 +1880,32 @@ Data directory: %3</translation>
         <translation>Cannot create the directory %1</translation>
     </message>
     <message>
-        <source>无法移走不可用的文件 %1</source>
-        <translation>Cannot move the unusable file %1</translation>
+        <source>交易参数文件 %1 无法使用，已使用默认值：</source>
+        <translation>The trading parameter file %1 cannot be used; the defaults are used instead:</translation>
+    </message>
+    <message>
+        <source>交易参数文件 %1 中有无效的值，这些参数已使用默认值：</source>
+        <translation>The trading parameter file %1 holds values that are not valid; these parameters have their defaults:</translation>
+    </message>
+    <message>
+        <source>该文件已移至 %1。</source>
+        <translation>The file was moved to %1.</translation>
+    </message>
+    <message>
+        <source>该文件的副本保存在 %1。</source>
+        <translation>A copy of the file is kept as %1.</translation>
+    </message>
+    <message>
+        <source>该文件无法移走，仍在原处。</source>
+        <translation>The file could not be moved and is still where it was.</translation>
+    </message>
+    <message>
+        <source>无法保存该文件的副本。</source>
+        <translation>A copy of the file could not be kept.</translation>
+    </message>
+    <message>
+        <source>无法保留不可用的文件 %1</source>
+        <translation>The unusable file %1 could not be kept</translation>
     </message>
 </context>
 <context>

@@ -1858,18 +1858,6 @@
 <context>
     <name>RecordStore</name>
     <message>
-        <source>交易参数文件 %1 无法使用：</source>
-        <translation>交易參數檔案 %1 無法使用：</translation>
-    </message>
-    <message>
-        <source>该文件无法移走，仍在原处。已使用默认值。</source>
-        <translation>該檔案無法移走，仍在原處。已使用預設值。</translation>
-    </message>
-    <message>
-        <source>该文件已移至 %1。已使用默认值。</source>
-        <translation>該檔案已移至 %1。已使用預設值。</translation>
-    </message>
-    <message>
         <source>无法读取：%1</source>
         <translation>無法讀取：%1</translation>
     </message>
@@ -1890,8 +1878,32 @@
         <translation>無法建立目錄 %1</translation>
     </message>
     <message>
-        <source>无法移走不可用的文件 %1</source>
-        <translation>無法移走不可用的檔案 %1</translation>
+        <source>交易参数文件 %1 无法使用，已使用默认值：</source>
+        <translation>交易參數檔案 %1 無法使用，已使用預設值：</translation>
+    </message>
+    <message>
+        <source>交易参数文件 %1 中有无效的值，这些参数已使用默认值：</source>
+        <translation>交易參數檔案 %1 中有無效的值，這些參數已使用預設值：</translation>
+    </message>
+    <message>
+        <source>该文件已移至 %1。</source>
+        <translation>該檔案已移至 %1。</translation>
+    </message>
+    <message>
+        <source>该文件的副本保存在 %1。</source>
+        <translation>該檔案的副本儲存在 %1。</translation>
+    </message>
+    <message>
+        <source>该文件无法移走，仍在原处。</source>
+        <translation>該檔案無法移走，仍在原處。</translation>
+    </message>
+    <message>
+        <source>无法保存该文件的副本。</source>
+        <translation>無法儲存該檔案的副本。</translation>
+    </message>
+    <message>
+        <source>无法保留不可用的文件 %1</source>
+        <translation>無法保留不可用的檔案 %1</translation>
     </message>
 </context>
 <context>

@@ -138,11 +138,17 @@ private Q_SLOTS:
 
     void setsAside_data();
     void setsAside();
+    void losesOnlyTheWrongValue_data();
+    void losesOnlyTheWrongValue();
+    void losesOnlyTheWrongElements();
     void namesEveryWrongValue();
     void acceptsWhatLiesInRange_data();
     void acceptsWhatLiesInRange();
     void neverReplacesAnEarlierSetAside();
-    void usesNothingOfASetAsideFile();
+    void keepsAWrongFileOnce();
+    void savesNothingBeforeAWrongFileIsKept();
+    void readingLeavesTheFileAlone_data();
+    void readingLeavesTheFileAlone();
     void setsAsideAnUnreadableThing();
     void doesNotOverwriteWhatItCouldNotMove();
 
@@ -364,15 +370,21 @@ void tst_RecordStore::setsAside_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QStringList>("told");
+    QTest::newRow("empty") << QByteArray() << QStringList{QStringLiteral("0")};
+    QTest::newRow("cut short") << QByteArray("{\"lockMinutes\": 7,") << QStringList();
+    QTest::newRow("no object") << QByteArray("[1, 2]") << QStringList{QStringLiteral("JSON")};
+    QTest::newRow("binary") << QByteArray("\0\x01\xff\xfe", 4) << QStringList();
+}
+
+void tst_RecordStore::losesOnlyTheWrongValue_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("told");
 
     const auto wrong = [](const char* tag, const char* text, const char* name, const char* value) {
         QTest::newRow(tag) << QByteArray(text)
                            << QStringList{QString::fromUtf8(name), QString::fromUtf8(value)};
     };
-    QTest::newRow("empty") << QByteArray() << QStringList{QStringLiteral("0")};
-    QTest::newRow("cut short") << QByteArray("{\"lockMinutes\": 7,") << QStringList();
-    QTest::newRow("no object") << QByteArray("[1, 2]") << QStringList{QStringLiteral("JSON")};
-    QTest::newRow("binary") << QByteArray("\0\x01\xff\xfe", 4) << QStringList();
     wrong("text for a number", R"({"lockMinutes": "7"})", "lockMinutes", "\"7\"");
     wrong("flag as true", R"({"confirmOrder": true})", "confirmOrder", "true");
     wrong("fraction", R"({"splitMaxQty": 100.5})", "splitMaxQty", "100.5");
@@ -385,12 +397,6 @@ void tst_RecordStore::setsAside_data()
     wrong("text for a list", R"({"stockShortcuts": "F1"})", "stockShortcuts", "\"F1\"");
     wrong("short list", R"({"starBuyRiseChoices": [1, 2]})", "starBuyRiseChoices", "[1,2]");
     wrong("long list", R"({"starBuyRiseChoices": [1, 2, 3, 4]})", "starBuyRiseChoices", "4]");
-    wrong("element type", R"({"starSellRiseChoices": [1, "x", 3]})", "starSellRiseChoices[1]",
-          "\"x\"");
-    wrong("element range", R"({"starSellRiseChoices": [1, 2, 101]})", "starSellRiseChoices[2]",
-          "101");
-    wrong("key type", R"({"creditShortcuts": ["","","","","","","","","","","","",5]})",
-          "creditShortcuts[12]", "5");
     wrong("reserved digits", R"({"reservedA": "0011zz22"})", "reservedA", "0011zz22");
     wrong("reserved length", R"({"reservedA": "001122"})", "reservedA", "001122");
     for (const IntegerExpectation& row : integers) {
@@ -431,6 +437,74 @@ void tst_RecordStore::setsAside()
     QCOMPARE(m_store->save(record), QString());
     QCOMPARE(configFiles().size(), 2);
     QVERIFY(m_store->load(record).isClean());
+}
+
+void tst_RecordStore::losesOnlyTheWrongValue()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(const QStringList, told);
+    // Another field of the same file, and one that the client does not know.
+    const bool isFontSize = text.contains("fontSizeLevel");
+    text.chop(1);
+    text += isFontSize ? R"(, "languageIndex": 2, "theme": "夜"})"
+                       : R"(, "fontSizeLevel": 2, "theme": "夜"})";
+    write(text);
+    OwnedRecord record;
+    record.get().splitBaseQty = 3;
+    const RecordStore::LoadReport report = m_store->load(record);
+    QCOMPARE(report.problems.size(), 1);
+    for (const QString& part : told)
+        QVERIFY2(report.problems.first().contains(part), qPrintable(report.problems.first()));
+    OwnedRecord expected;
+    (isFontSize ? expected.get().languageIndex : expected.get().fontSizeLevel) = 2;
+    QVERIFY(record == expected);
+
+    // The file as it was is kept, and stays until something is saved.
+    QCOMPARE(configFiles().size(), 2);
+    const QRegularExpression dated(QStringLiteral(
+        "^trade_parameters\\.\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d\\.bad\\.json$"));
+    QVERIFY2(dated.match(configFiles().first()).hasMatch(), qPrintable(configFiles().first()));
+    QCOMPARE(report.setAside, m_home->filePath(QStringLiteral("config/") + configFiles().first()));
+    QCOMPARE(contentOf(report.setAside), text);
+    QCOMPARE(content(), text);
+    QVERIFY(report.message().contains(report.setAside));
+    QVERIFY(report.message().contains(report.problems.first()));
+
+    QCOMPARE(m_store->save(record), QString());
+    QCOMPARE(configFiles().size(), 2);
+    QCOMPARE(contentOf(report.setAside), text);
+    QCOMPARE(object().value(QStringLiteral("theme")).toString(), QStringLiteral("夜"));
+    OwnedRecord again;
+    QVERIFY(m_store->load(again).isClean());
+    QVERIFY(again == expected);
+}
+
+void tst_RecordStore::losesOnlyTheWrongElements()
+{
+    write(R"({"starBuyRiseChoices": [101, 8, -1], "starSellRiseChoices": [7, "x", 9],
+              "creditShortcuts": ["A","B","C","D","E","F","G","H","I","J","K","L",5],
+              "stockShortcuts": ["a",null,"c","d","e","f","g","h","i","j","k","l","m"]})");
+    OwnedRecord record;
+    const RecordStore::LoadReport report = m_store->load(record);
+    QStringList names;
+    for (const QString& problem : report.problems)
+        names += problem.section(QLatin1Char(' '), 0, 0);
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("starBuyRiseChoices[0] starBuyRiseChoices[2] starSellRiseChoices[1] "
+                            "stockShortcuts[1] creditShortcuts[12]"));
+    const auto percentages = [](const std::int32_t* choices) {
+        return QVector<int>{choices[0], choices[1], choices[2]};
+    };
+    QCOMPARE(percentages(record.get().starBuyRiseChoices), (QVector<int>{1, 8, 5}));
+    QCOMPARE(percentages(record.get().starSellRiseChoices), (QVector<int>{7, 2, 9}));
+    const auto keys = [&record](const char* name) {
+        QStringList texts;
+        for (int i = 0; i < 13; ++i)
+            texts += RecordFields::text(record.get(), field(name), i);
+        return texts.join(QLatin1Char(' '));
+    };
+    QCOMPARE(keys("stockShortcuts"), QStringLiteral("a Ctrl+S c d e f g h i j k l m"));
+    QCOMPARE(keys("creditShortcuts"), QStringLiteral("A B C D E F G H I J K L Alt+2"));
 }
 
 void tst_RecordStore::namesEveryWrongValue()
@@ -481,14 +555,70 @@ void tst_RecordStore::neverReplacesAnEarlierSetAside()
     QCOMPARE(contents.size(), 8);
 }
 
-void tst_RecordStore::usesNothingOfASetAsideFile()
+void tst_RecordStore::keepsAWrongFileOnce()
 {
-    write(R"({"lockMinutes": 7, "splitMinQty": -5, "foreign": 1})");
+    write(R"({"lockMinutes": 7, "splitMinQty": -5})");
     OwnedRecord record;
-    QVERIFY(!m_store->load(record).isClean());
-    QCOMPARE(record.get().lockMinutes, 30);
+    const QString first = m_store->load(record).setAside;
+    QVERIFY(QFileInfo::exists(first));
+    const RecordStore::LoadReport second = RecordStore(*m_directory).load(record);
+    QCOMPARE(second.problems.size(), 1);
+    QCOMPARE(second.setAside, first);
+    QCOMPARE(configFiles().size(), 2);
+
+    write(R"({"lockMinutes": 8, "splitMinQty": -5})");
+    QVERIFY(m_store->load(record).setAside != first);
+    QCOMPARE(configFiles().size(), 3);
+}
+
+void tst_RecordStore::savesNothingBeforeAWrongFileIsKept()
+{
+    const QByteArray text = R"({"lockMinutes": 7, "splitMinQty": -5})";
+    write(text);
+    OwnedRecord record;
+    RecordStore::LoadReport report;
+    QString failure;
+    {
+        const QString config = m_home->filePath(QStringLiteral("config"));
+        const Unprivileged user({m_home->path(), config, m_directory->recordFile()});
+        const ReadOnly locked(config);
+        report = m_store->load(record);
+        failure = m_store->save(record);
+    }
+    QCOMPARE(report.problems.size(), 1);
+    QCOMPARE(report.setAside, QString());
+    QCOMPARE(record.get().lockMinutes, 7);
+    QVERIFY2(failure.contains(m_store->fileName()), qPrintable(failure));
+    QCOMPARE(content(), text);
+
+    // As soon as a copy can be kept, saving works.
     QCOMPARE(m_store->save(record), QString());
-    QVERIFY(!object().contains(QStringLiteral("foreign")));
+    QCOMPARE(configFiles().size(), 2);
+    QCOMPARE(contentOf(m_home->filePath(QStringLiteral("config/") + configFiles().first())), text);
+}
+
+void tst_RecordStore::readingLeavesTheFileAlone_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("right") << QByteArray(R"({"lockMinutes": 7})");
+    QTest::newRow("a wrong value") << QByteArray(R"({"lockMinutes": -7})");
+    QTest::newRow("no JSON") << QByteArray("broken");
+}
+
+void tst_RecordStore::readingLeavesTheFileAlone()
+{
+    QFETCH(const QByteArray, text);
+    write(text);
+    OwnedRecord record;
+    const RecordStore::LoadReport report = m_store->read(record);
+    QCOMPARE(report.isClean(), text.contains(" 7}"));
+    QCOMPARE(report.setAside, QString());
+    QVERIFY(!report.message().contains(QStringLiteral("无法移走")));
+    QVERIFY(!report.message().contains(QStringLiteral("副本")));
+    TradeCore silent(*m_directory, TradeCore::Storage::None);
+    QCOMPARE(silent.load().isClean(), report.isClean());
+    QCOMPARE(configFiles(), QStringList{QStringLiteral("trade_parameters.json")});
+    QCOMPARE(content(), text);
 }
 
 void tst_RecordStore::setsAsideAnUnreadableThing()
@@ -593,7 +723,9 @@ void tst_RecordStore::removesLeftovers()
                            QStringLiteral("trade_parameters.2024-01-01_00-00-00.bad.json"),
                            QStringLiteral("trade_parameters.json"),
                            QStringLiteral("trade_parameters.json.backup")};
-    for (const QString& name : stay + QStringList{QStringLiteral("trade_parameters.json.aBcDeF")})
+    const QStringList go{QStringLiteral("trade_parameters.2024-01-01_00-00-00.bad.json.aBcDeF"),
+                         QStringLiteral("trade_parameters.json.aBcDeF")};
+    for (const QString& name : stay + go)
         writeFile(m_home->filePath(QStringLiteral("config/") + name), "some content");
     m_store->removeLeftovers();
     QCOMPARE(configFiles(), stay);
