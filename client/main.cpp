@@ -45,17 +45,20 @@ void ensureEncoding()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-bool platformShowsWindows()
+int complain(const QString& message)
 {
-    const QString platform = QGuiApplication::platformName();
-    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+    std::fprintf(stderr, "tradeclient: %s\n", qPrintable(message));
+    return EXIT_FAILURE;
 }
 
 // To the standard error always, in a box too when somebody can see it.
 void tell(QMessageBox::Icon icon, const QString& message)
 {
-    std::fprintf(stderr, "tradeclient: %s\n", qPrintable(message));
-    if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || !platformShowsWindows())
+    complain(message);
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return;
+    const QString platform = QGuiApplication::platformName();
+    if (platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
         return;
     QMessageBox box(icon, Client::tr("交易客户端"), message);
     box.exec();
@@ -79,13 +82,6 @@ bool loadSkin(const QString& asked, const QString& chosen)
     return true;
 }
 
-int tellPictures(const Pictures& pictures)
-{
-    for (const QString& file : pictures.files)
-        std::printf("%s\n", qPrintable(file));
-    return pictures.failure.isEmpty() ? EXIT_SUCCESS : fail(pictures.failure);
-}
-
 // Chooses what to draw on. False when that takes a display and there is none.
 bool chooseDisplay(bool onlyPictures)
 {
@@ -97,62 +93,60 @@ bool chooseDisplay(bool onlyPictures)
         || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
-// Makes the data directory where there is none, for the module to find it, and takes it away again.
-class BorrowedHome {
-public:
-    BorrowedHome()
-    {
-        for (QString part = ExpectedHome::path(); !QFileInfo::exists(part);
-             part = QFileInfo(part).path())
-            m_made += part;
-        failure = ExpectedHome::make();
-    }
-    ~BorrowedHome()
-    {
-        for (const QString& part : qAsConst(m_made))
-            QDir().rmdir(part);
-    }
-    Q_DISABLE_COPY(BorrowedHome)
+int print(const QByteArray& text)
+{
+    if (std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size())
+        && std::fflush(stdout) == 0)
+        return EXIT_SUCCESS;
+    return complain(Client::tr("无法写入标准输出：%1").arg(qt_error_string()));
+}
 
-    QString failure;
-
-private:
-    QStringList m_made;
-};
+int listPictures(const Pictures& pictures)
+{
+    QByteArray list;
+    for (const QString& file : pictures.files)
+        list += file.toLocal8Bit() + '\n';
+    const int status = print(list);
+    return pictures.failure.isEmpty() ? status : complain(pictures.failure);
+}
 
 int printRecord(const DataDirectory& directory)
 {
     TradeCore core(directory, TradeCore::Storage::None);
     const RecordStore::LoadReport report = core.load();
-    if (!report.isClean())
-        tell(QMessageBox::Warning, report.message());
-    const QByteArray json = RecordStore::toJson(core.record());
-    return std::fwrite(json.constData(), 1, size_t(json.size()), stdout) == size_t(json.size())
-            && std::fflush(stdout) == 0
-        ? EXIT_SUCCESS
-        : EXIT_FAILURE;
+    const int status = print(RecordStore::toJson(core.record()));
+    return report.isClean() ? status : complain(report.message());
+}
+
+int drawPages(const SettingsModule& module, const DataDirectory& directory, const QString& target)
+{
+    TradeCore core(directory, TradeCore::Storage::None);
+    const RecordStore::LoadReport report = core.load();
+    const std::unique_ptr<QWidget> dialog(module.createDialog(&core));
+    if (!dialog)
+        return complain(Client::tr("设置模块 %1 无法创建设置窗口").arg(module.fileName()));
+    const int status = listPictures(writeScreenshots(*dialog, target));
+    return report.isClean() ? status : complain(report.message());
 }
 
 int writePages(const SettingsModule& module, const DataDirectory& directory, const QString& target)
 {
-    const BorrowedHome home;
-    if (!home.failure.isEmpty())
-        return fail(home.failure);
-    TradeCore core(directory, TradeCore::Storage::None);
-    const RecordStore::LoadReport report = core.load();
-    if (!report.isClean())
-        tell(QMessageBox::Warning, report.message());
-    const std::unique_ptr<QWidget> dialog(module.createDialog(&core));
-    if (!dialog)
-        return fail(Client::tr("设置模块 %1 无法创建设置窗口").arg(module.fileName()));
-    return tellPictures(writeScreenshots(*dialog, target));
+    // The dialog asks for the data directory, which is made where there is none.
+    const QString home = ExpectedHome::path();
+    const bool borrowed = !QFileInfo::exists(home);
+    const QString homeless = ExpectedHome::make();
+    const int status
+        = homeless.isEmpty() ? drawPages(module, directory, target) : complain(homeless);
+    if (borrowed)
+        QDir().rmdir(home);
+    return status;
 }
 
 int runGallery(SkinSwitcher& skins, const QString& target)
 {
     Gallery gallery;
     if (!target.isEmpty())
-        return tellPictures(gallery.writeScreenshots(target));
+        return listPictures(gallery.writeScreenshots(target));
     skins.fill(gallery.skinMenu());
     gallery.show();
     return QCoreApplication::exec();

@@ -660,6 +660,10 @@ Change the values marked red until they turn green, then press OK again.</transl
         <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
         <translation>The skin %1 cannot be used. The built-in light skin is used instead.</translation>
     </message>
+    <message>
+        <source>无法写入标准输出：%1</source>
+        <translation>Cannot write to the standard output: %1</translation>
+    </message>
 </context>
 <context>
     <name>ClientOptions</name>

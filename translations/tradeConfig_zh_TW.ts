@@ -660,6 +660,10 @@
         <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
         <translation>無法使用外觀 %1，已改用內建的淺色外觀。</translation>
     </message>
+    <message>
+        <source>无法写入标准输出：%1</source>
+        <translation>無法寫入標準輸出：%1</translation>
+    </message>
 </context>
 <context>
     <name>ClientOptions</name>

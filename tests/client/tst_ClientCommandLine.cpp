@@ -41,6 +41,7 @@ private Q_SLOTS:
     void printsTheDefaults();
     void printsTheStoredRecord();
     void printRecordTellsOfAWrongValue();
+    void outputThatCannotBeWritten();
     void screenshots_data();
     void screenshots();
     void screenshotsIntoAFile();
@@ -270,17 +271,32 @@ void tst_ClientCommandLine::printRecordTellsOfAWrongValue()
 {
     writeFile(data(QStringLiteral("config/trade_parameters.json")), R"({"lockMinutes": -5})");
     const Outcome outcome = run({QStringLiteral("--print-record")});
-    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.errors.contains("lockMinutes"), outcome.errors.constData());
     QVERIFY(outcome.errors.contains("-5"));
     const QStringList files = QDir(data(QStringLiteral("config"))).entryList(QDir::Files);
-    QCOMPARE(files.size(), 1);
+    QCOMPARE(files, QStringList{QStringLiteral("trade_parameters.json")});
     QVERIFY(outcome.errors.contains(data(QStringLiteral("config/") + files.first()).toUtf8()));
     QCOMPARE(QJsonDocument::fromJson(outcome.output)
                  .object()
                  .value(QStringLiteral("lockMinutes"))
                  .toInt(),
              30);
+}
+
+void tst_ClientCommandLine::outputThatCannotBeWritten()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFileInfo::exists(full))
+        QSKIP("There is no such device");
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.setStandardOutputFile(full);
+    process.start(QStringLiteral(CLIENT_PROGRAM), {QStringLiteral("--print-record")});
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 1);
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(errors.contains("No space left on device"), errors.constData());
 }
 
 void tst_ClientCommandLine::screenshots_data()

@@ -2,6 +2,8 @@
 #include "support/TestMain.h"
 
 #include <QDirIterator>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 
 #include <memory>
@@ -57,6 +59,9 @@ private Q_SLOTS:
     void picturesTakeTheirDirectoryAway_data();
     void picturesTakeTheirDirectoryAway();
     void clientMakesItsDirectory();
+    void readingLeavesNoTrace_data();
+    void readingLeavesNoTrace();
+    void readingBesideARunningClient();
 
 private:
     QString place(const QString& name) const { return m_scratch->filePath(name); }
@@ -239,6 +244,73 @@ void tst_ClientHome::clientMakesItsDirectory()
     QTRY_VERIFY_WITH_TIMEOUT(
         QFileInfo::exists(data(QStringLiteral("missing/deep")) + QStringLiteral("/restart")),
         patience);
+    QCOMPARE(client.state(), QProcess::Running);
+    client.terminate();
+    QVERIFY(client.waitForFinished(patience));
+}
+
+void tst_ClientHome::readingLeavesNoTrace_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("record");
+    QTest::addColumn<QByteArray>("told");
+    const QStringList print{QStringLiteral("--print-record")};
+    const QStringList draw{QStringLiteral("--screenshots"), QStringLiteral("pictures")};
+    for (const QStringList& arguments : {print, draw}) {
+        const auto row = [&arguments](const char* tag, const char* record, const char* told) {
+            QTest::addRow("%s, %s", qPrintable(arguments.first()), tag)
+                << arguments << QByteArray(record) << QByteArray(told);
+        };
+        row("right", R"({"lockMinutes": 7, "foreign": 1})", "");
+        row("a wrong value", R"({"lockMinutes": 7, "splitMaxQty": "x"})", "splitMaxQty");
+        row("no JSON", "lockMinutes = 7", "trade_parameters.json");
+    }
+}
+
+void tst_ClientHome::readingLeavesNoTrace()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(const QByteArray, record);
+    QFETCH(const QByteArray, told);
+    const bool prints = arguments.size() == 1;
+    if (!prints)
+        arguments[1] = place(arguments[1]);
+    const QString home = QStringLiteral("empty");
+    writeFile(data(home) + QStringLiteral("/config/trade_parameters.json"), record);
+    writeFile(data(home) + QStringLiteral("/config/client.ini"), "[View]\nskin=dark\n");
+    const QStringList before = snapshot(place(home));
+    const Outcome outcome = run(arguments, place(home));
+    QCOMPARE(outcome.status, told.isEmpty() ? 0 : 1);
+    QVERIFY2(outcome.errors.contains(told), outcome.errors.constData());
+    QVERIFY(outcome.output.count('\n') >= 10);
+    if (prints) {
+        const QJsonObject printed = QJsonDocument::fromJson(outcome.output).object();
+        QCOMPARE(printed.size(), 41);
+        QCOMPARE(printed.value(QStringLiteral("lockMinutes")).toInt(),
+                 record.startsWith('{') ? 7 : 30);
+        QCOMPARE(printed.value(QStringLiteral("splitMaxQty")).toInt(), 50000);
+        if (told.isEmpty())
+            QCOMPARE(outcome.errors, QByteArray());
+    }
+    QCOMPARE(snapshot(place(home)), before);
+}
+
+void tst_ClientHome::readingBesideARunningClient()
+{
+    const QString home = QStringLiteral("empty");
+    writeFile(data(home) + QStringLiteral("/config/trade_parameters.json"),
+              R"({"lockMinutes": 7})");
+    QProcess client;
+    client.setProcessEnvironment(environment(place(home)));
+    client.start(QStringLiteral(CLIENT_PROGRAM), QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(data(home) + QStringLiteral("/restart")), patience);
+
+    const QStringList before = snapshot(place(home));
+    QCOMPARE(run({QStringLiteral("--print-record")}, place(home)).status, 0);
+    QCOMPARE(run({QStringLiteral("--screenshots"), place(QStringLiteral("pictures"))}, place(home))
+                 .status,
+             0);
+    QCOMPARE(snapshot(place(home)), before);
     QCOMPARE(client.state(), QProcess::Running);
     client.terminate();
     QVERIFY(client.waitForFinished(patience));
