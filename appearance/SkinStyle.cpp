@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <QTextLayout>
+#include <QtMath>
 
 namespace {
 
@@ -32,11 +34,85 @@ double thumbShareOf(const QStyleOptionSlider& bar)
     return bar.state & QStyle::State_MouseOver ? thumbShareHovered : thumbShare;
 }
 
+/**
+ * Where the box of a line begins so that its capitals and digits are in the middle of @p area.
+ *
+ * The font alone decides, not the text: all lines of a font stand on the same height.
+ */
+int lineTop(const QRect& area, const QFontMetrics& metrics)
+{
+    const int surplus = qRound(metrics.ascent() - (metrics.height() + metrics.capHeight()) / 2.0);
+    return area.y() + qFloor((area.height() - metrics.height()) / 2.0) - surplus;
+}
+
+/// How much higher than at @p baseline the @p text has to stand in the low @p row not to lose the
+/// feet of its letters: a pixel of the device, if their heads leave room for it.
+double feetRoom(const QPainter& painter, const QRect& row, double baseline, const QString& text)
+{
+    const double pixel = 1.0 / painter.deviceTransform().m22();
+    const QRectF ink = QFontMetricsF(painter.font()).tightBoundingRect(text);
+    const bool feetStickOut = baseline + ink.bottom() + pixel / 2 > row.bottom() + 1;
+    const bool headsHaveRoom = baseline + ink.top() - pixel >= row.top();
+    return feetStickOut && headsHaveRoom ? pixel : 0.0;
+}
+
+/// How far the box of @p text begins above its baseline. A font that falls back for Chinese
+/// reserves more there than it does for letters.
+double ascentOf(const QString& text, const QFont& font)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    return line.ascent();
+}
+
 } // namespace
 
 SkinStyle::SkinStyle()
     : QProxyStyle(QStringLiteral("Fusion"))
 {
+    // The settings module then leaves its labels as they are.
+    setProperty("centresGlyphs", true);
+}
+
+void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool enabled, const QString& text,
+                             QPalette::ColorRole role) const
+{
+    const bool isLine = !(flags & Qt::TextWordWrap) && !text.contains(QLatin1Char('\n'));
+    if (!isLine || !(flags & Qt::AlignVCenter)) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+        return;
+    }
+    const QFontMetrics metrics = painter->fontMetrics();
+    double baseline = lineTop(rect, metrics) + metrics.ascent();
+    if (rect.height() < metrics.height())
+        baseline -= feetRoom(*painter, rect, baseline, text);
+    const double ascent = ascentOf(text, painter->font());
+    const QRectF box(rect.x(), baseline - ascent, rect.width(), ascent + metrics.height());
+    const QPen pen = painter->pen();
+    if (role != QPalette::NoRole)
+        painter->setPen(QPen(palette.brush(role), pen.widthF()));
+    painter->drawText(box, (flags & ~Qt::AlignVertical_Mask) | Qt::AlignTop, text);
+    painter->setPen(pen);
+}
+
+QRect SkinStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_LineEditContents) {
+        // A line edit draws its text itself, in the middle of this rectangle.
+        const QFontMetrics& metrics = option->fontMetrics;
+        rect.setTop(2 * lineTop(rect, metrics) + metrics.height() - rect.bottom() - 2);
+    }
+    const auto* const item = element == SE_ItemViewItemText
+        ? qstyleoption_cast<const QStyleOptionViewItem*>(option)
+        : nullptr;
+    if (item)
+        rect.translate(0, item->fontMetrics.ascent() - qRound(ascentOf(item->text, item->font)));
+    return rect;
 }
 
 void SkinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

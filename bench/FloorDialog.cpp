@@ -103,7 +103,8 @@ FloorDialog::FloorDialog(KivoTrade::ITrade* trade)
 {
     const TradeParm& parm = *trade->GetTradeParm();
     m_form->setupUi(this);
-    RowLabels::fit(*this);
+    RowLabels::fit(
+        {m_form->page_3, m_form->page_4, m_form->page_5, m_form->page_6, m_form->page_7});
     buildNavigation(parm);
     buildTables(parm);
     fillChoices();

@@ -43,7 +43,7 @@ CTradeConfigWidget::CTradeConfigWidget(QWidget* parent)
     : QWidget(parent)
 {
     ui.setupUi(this);
-    RowLabels::fit(*this);
+    RowLabels::fit({ui.page_3, ui.page_4, ui.page_5, ui.page_6, ui.page_7});
 }
 
 // Delegates, so that the destructor frees the bar's items when the host's core throws below.

@@ -1,7 +1,29 @@
 #include "support/FakeTrade.h"
 #include "support/TestMain.h"
+#include "support/TextInk.h"
 #include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/dialog/RowLabels.h"
 
+#include <QStyle>
+#include <QTranslator>
+
+namespace {
+
+constexpr int percents[] = {100, 125, 150, 175, 200, 300};
+
+QVector<QLabel*> rowLabels(const QWidget& dialog)
+{
+    QVector<QLabel*> labels;
+    for (auto* const label : dialog.findChildren<QLabel*>()) {
+        if (label->height() == 16)
+            labels << label;
+    }
+    return labels;
+}
+
+} // namespace
+
+/// The toolkit's own style draws here, which knows nothing of the rows.
 class tst_RowLabel : public QObject {
     Q_OBJECT
 
@@ -9,52 +31,50 @@ private Q_SLOTS:
     void glyphsFitTheRow_data();
     void glyphsFitTheRow();
     void rowsKeepTheirPlace();
-    void otherLabelsStayAsTheyAre();
+    void onlyTheirLowerEdgeMoves();
+    void linesThatFitStayAsTheyAre();
+    void styleThatCentresGlyphsIsLeftAlone();
     void bareFormShowsItsTexts();
 };
 
-namespace {
-
-/// Sum of what the text darkens, in levels of grey.
-qint64 ink(QWidget& label)
-{
-    const QImage image = label.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
-    const int ground = qGray(label.palette().color(QPalette::Window).rgb());
-    qint64 sum = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            sum += ground - qGray(image.pixel(x, y));
-    }
-    return sum;
-}
-
-} // namespace
-
 void tst_RowLabel::glyphsFitTheRow_data()
 {
-    QTest::addColumn<QString>("name");
-    FakeTrade trade;
-    const CTradeConfigWidget dialog(&trade);
-    for (const auto* const label : dialog.findChildren<QLabel*>()) {
-        if (label->height() == 16)
-            QTest::newRow(qPrintable(label->objectName())) << label->objectName();
-    }
+    QTest::addColumn<QString>("language");
+    for (const char* const language : {"zh_CN", "zh_TW", "en_US"})
+        QTest::newRow(language) << QString::fromLatin1(language);
 }
 
 void tst_RowLabel::glyphsFitTheRow()
 {
-    QFETCH(QString, name);
+    QFETCH(const QString, language);
+    QTranslator translator;
+    if (language != QLatin1String("zh_CN")) {
+        QVERIFY(translator.load(QStringLiteral("tradeConfig_") + language,
+                                QStringLiteral(":/translations")));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+    }
     FakeTrade trade;
     CTradeConfigWidget dialog(&trade);
-    auto* const label = dialog.findChild<QLabel*>(name);
-    QCOMPARE(label->height(), 16);
-    const qint64 shown = ink(*label);
-    label->resize(label->width(), 48);
-    const qint64 whole = ink(*label);
-    QVERIFY(whole > 20000);
-    // A rounding of a stroke's edge may stick out, a row of pixels may not.
-    QVERIFY2(whole - shown <= whole / 1000,
-             qPrintable(QStringLiteral("%1 of %2 shown").arg(shown).arg(whole)));
+    const QVector<QLabel*> labels = rowLabels(dialog);
+    QCOMPARE(labels.size(), 28);
+    for (QLabel* const label : labels) {
+        for (const int percent : percents) {
+            const auto ink = [&](int height) {
+                label->resize(label->width(), height);
+                return textInk(renderedAt(*label, percent / 100.0), label->rect()).sum;
+            };
+            const qint64 whole = ink(48);
+            const qint64 shown = ink(16);
+            QVERIFY(whole > 8000);
+            // The softened edge of a stroke may stick out, a line of pixels may not.
+            QVERIFY2(double(whole - shown) <= 0.003 * double(whole),
+                     qPrintable(QStringLiteral("%1 at %2 %: %3 of %4")
+                                    .arg(label->objectName())
+                                    .arg(percent)
+                                    .arg(shown)
+                                    .arg(whole)));
+        }
+    }
 }
 
 void tst_RowLabel::rowsKeepTheirPlace()
@@ -69,14 +89,50 @@ void tst_RowLabel::rowsKeepTheirPlace()
     QCOMPARE(dialog.ui.label_7->font().pointSize(), 11);
 }
 
-void tst_RowLabel::otherLabelsStayAsTheyAre()
+void tst_RowLabel::onlyTheirLowerEdgeMoves()
 {
     FakeTrade trade;
     const CTradeConfigWidget dialog(&trade);
-    QCOMPARE(dialog.ui.label_2->contentsMargins(), QMargins(0, -6, 0, -2));
+    for (const QLabel* const label : rowLabels(dialog)) {
+        QCOMPARE(label->contentsMargins(), QMargins(0, -2, 0, -2));
+        QCOMPARE(label->alignment(), Qt::Alignment(Qt::AlignLeading | Qt::AlignBottom));
+    }
     for (const QLabel* const label :
-         {dialog.ui.label_35, dialog.ui.label_33, dialog.ui.label_shortcut})
+         {dialog.ui.label_35, dialog.ui.label_33, dialog.ui.label_shortcut}) {
         QCOMPARE(label->contentsMargins(), QMargins());
+        QCOMPARE(label->alignment(), Qt::Alignment(Qt::AlignLeading | Qt::AlignVCenter));
+    }
+}
+
+/// As where a point is a pixel.
+void tst_RowLabel::linesThatFitStayAsTheyAre()
+{
+    QWidget page;
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(11);
+    page.setFont(font);
+    QLabel label(QStringLiteral("默认"), &page);
+    label.resize(100, 16);
+    RowLabels::fit({&page});
+    QCOMPARE(label.contentsMargins(), QMargins());
+    QCOMPARE(label.alignment(), Qt::Alignment(Qt::AlignLeading | Qt::AlignVCenter));
+    font.setPixelSize(15);
+    page.setFont(font);
+    RowLabels::fit({&page});
+    QVERIFY(label.contentsMargins() != QMargins());
+}
+
+void tst_RowLabel::styleThatCentresGlyphsIsLeftAlone()
+{
+    QStyle* const style = QApplication::style();
+    style->setProperty("centresGlyphs", true);
+    FakeTrade trade;
+    const CTradeConfigWidget dialog(&trade);
+    style->setProperty("centresGlyphs", QVariant());
+    for (const QLabel* const label : rowLabels(dialog)) {
+        QCOMPARE(label->contentsMargins(), QMargins());
+        QCOMPARE(label->alignment(), Qt::Alignment(Qt::AlignLeading | Qt::AlignVCenter));
+    }
 }
 
 void tst_RowLabel::bareFormShowsItsTexts()
@@ -85,7 +141,7 @@ void tst_RowLabel::bareFormShowsItsTexts()
     Ui_CTradeConfigWidget form;
     form.setupUi(&widget);
     QCOMPARE(form.label_7->contentsMargins(), QMargins());
-    QVERIFY(ink(*form.label_7) > 20000);
+    QVERIFY(textInk(renderedAt(*form.label_7, 1.0), form.label_7->rect()).sum > 20000);
 }
 
 TRADECONFIG_TEST_MAIN(tst_RowLabel)
