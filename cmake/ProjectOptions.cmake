@@ -34,3 +34,13 @@ if(TRADECONFIG_COVERAGE)
     add_compile_options(--coverage -O0)
     add_link_options(--coverage)
 endif()
+
+# A library that stays in the process once it was loaded, even if the host unloads it. The toolkit
+# keeps what lies in its image longer than any dialog lives: keys of settings files, names of fonts
+# and styles, the function that makes accessibility interfaces. macOS never unloads the module
+# anyway, since it has Objective-C in it, nor what the module links.
+function(tradeconfig_stays_loaded target)
+    if(NOT APPLE)
+        target_link_options(${target} PRIVATE LINKER:-z,nodelete)
+    endif()
+endfunction()
