@@ -14,7 +14,7 @@ QAccessibleInterface* create(const QString& className, QObject* object)
 
 } // namespace
 
-void NavWidgetAccessible::install() { static const AccessibleFactory factory(&create); }
+void NavWidgetAccessible::install() { QAccessible::installFactory(&create); }
 
 NavWidgetAccessible::NavWidgetAccessible(CNavWidget* list)
     : PartsAccessible(list, QAccessible::List)

@@ -7,7 +7,7 @@ class CNavWidget;
 /// A navigation list as a list of items.
 class NavWidgetAccessible : public PartsAccessible {
 public:
-    /// Once in the life of the library; interfaces are made when somebody asks for one.
+    /// A second time does nothing. Interfaces are made when somebody asks for one.
     static void install();
 
     explicit NavWidgetAccessible(CNavWidget* list);

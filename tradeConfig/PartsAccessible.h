@@ -4,23 +4,6 @@
 #include <QHash>
 #include <QList>
 
-/// Keeps a factory of accessible interfaces installed while it lives. As a static object it
-/// ends with the library, so that an unloaded module leaves no dangling function behind.
-class AccessibleFactory {
-public:
-    explicit AccessibleFactory(QAccessible::InterfaceFactory factory)
-        : m_factory(factory)
-    {
-        QAccessible::installFactory(m_factory);
-    }
-    ~AccessibleFactory() { QAccessible::removeFactory(m_factory); }
-    AccessibleFactory(const AccessibleFactory&) = delete;
-    AccessibleFactory& operator=(const AccessibleFactory&) = delete;
-
-private:
-    QAccessible::InterfaceFactory m_factory;
-};
-
 /**
  * The accessible interface of a widget that paints several parts by itself: tabs, entries. Each
  * part becomes a child interface, with a name, a place, a role, a state and at most a press action.

@@ -14,7 +14,7 @@ QAccessibleInterface* create(const QString& className, QObject* object)
 
 } // namespace
 
-void SwitchExAccessible::install() { static const AccessibleFactory factory(&create); }
+void SwitchExAccessible::install() { QAccessible::installFactory(&create); }
 
 SwitchExAccessible::SwitchExAccessible(CSwitchEx* bar)
     : PartsAccessible(bar, QAccessible::PageTabList)

@@ -8,7 +8,7 @@ class CSwitchEx;
 /// the innermost outwards, as they stand on the screen.
 class SwitchExAccessible : public PartsAccessible {
 public:
-    /// Once in the life of the library; interfaces are made when somebody asks for one.
+    /// A second time does nothing. Interfaces are made when somebody asks for one.
     static void install();
 
     explicit SwitchExAccessible(CSwitchEx* bar);

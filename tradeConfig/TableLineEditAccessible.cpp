@@ -1,6 +1,5 @@
 #include "tradeConfig/TableLineEditAccessible.h"
 
-#include "tradeConfig/PartsAccessible.h"
 #include "tradeConfig/TableLineEdit.h"
 
 namespace {
@@ -15,7 +14,7 @@ QAccessibleInterface* create(const QString& className, QObject* object)
 
 } // namespace
 
-void TableLineEditAccessible::install() { static const AccessibleFactory factory(&create); }
+void TableLineEditAccessible::install() { QAccessible::installFactory(&create); }
 
 TableLineEditAccessible::TableLineEditAccessible(QLineEdit* cell)
     : QAccessibleWidget(cell, QAccessible::EditableText)

@@ -8,7 +8,7 @@ class QLineEdit;
 /// edit would put any text into it.
 class TableLineEditAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
-    /// Once in the life of the library; interfaces only come to be when asked for.
+    /// A second time does nothing. Interfaces only come to be when asked for.
     static void install();
 
     explicit TableLineEditAccessible(QLineEdit* cell);

@@ -38,7 +38,6 @@ private Q_SLOTS:
     void theListIsAListOfItems();
     void theListFollowsTheMouse();
     void aPressOnTheListSelectsAndTells();
-    void aFactoryEndsWithItsOwner();
 };
 
 namespace {
@@ -63,14 +62,6 @@ void pressPart(QAccessibleInterface* part)
     QAccessibleActionInterface* const actions = part->actionInterface();
     QVERIFY(actions);
     actions->doAction(QAccessibleActionInterface::pressAction());
-}
-
-int factoryCalls = 0;
-
-QAccessibleInterface* countingFactory(const QString&, QObject*)
-{
-    ++factoryCalls;
-    return nullptr;
 }
 
 class Bar : public CSwitchEx {
@@ -605,20 +596,6 @@ void tst_KitAccessibility::aPressOnTheListSelectsAndTells()
     QCOMPARE(clicked.size(), 2);
     QCOMPARE(nav.selected, 2);
     QCOMPARE(list->childCount(), 1);
-}
-
-void tst_KitAccessibility::aFactoryEndsWithItsOwner()
-{
-    {
-        const AccessibleFactory owner(&countingFactory);
-        QWidget widget;
-        of(widget);
-        QVERIFY(factoryCalls > 0);
-    }
-    factoryCalls = 0;
-    QWidget widget;
-    of(widget);
-    QCOMPARE(factoryCalls, 0);
 }
 
 TRADECONFIG_TEST_MAIN(tst_KitAccessibility)
