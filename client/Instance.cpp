@@ -26,6 +26,7 @@ QString Instance::claim()
 {
     if (m_lock >= 0)
         return QString();
+    m_isTaken = false;
     const QString file = m_directory.lockFile();
     const auto systemError = [&file] {
         return tr("无法使用 %1：%2").arg(file, QString::fromLocal8Bit(std::strerror(errno)));
@@ -37,11 +38,11 @@ QString Instance::claim()
     if (m_lock < 0)
         return systemError();
     if (::flock(m_lock, LOCK_EX | LOCK_NB) != 0) {
-        const bool taken = errno == EWOULDBLOCK;
+        m_isTaken = errno == EWOULDBLOCK;
         const QString reason = systemError();
         ::close(m_lock);
         m_lock = -1;
-        return taken ? tr("客户端已在运行（数据目录 %1）").arg(m_directory.home()) : reason;
+        return m_isTaken ? tr("客户端已在运行（数据目录 %1）").arg(m_directory.home()) : reason;
     }
     return QString();
 }

@@ -24,6 +24,9 @@ public:
     /// Returns an empty text, or why this process cannot be the one. Once it is, it stays so.
     QString claim();
 
+    /// Whether the last claim() failed because another process is the one.
+    bool isTaken() const { return m_isTaken; }
+
     /// Only after claim(). @p arguments without the program's name.
     QString writeStart(const QString& currentDirectory, const QString& program,
                        const QStringList& arguments) const;
@@ -35,4 +38,5 @@ public:
 private:
     const DataDirectory& m_directory;
     int m_lock = -1;
+    bool m_isTaken = false;
 };

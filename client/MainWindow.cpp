@@ -158,6 +158,18 @@ void MainWindow::openSettings()
     m_settings->activateWindow();
 }
 
+void MainWindow::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    // What waits for an answer stands before the window.
+    if (QWidget* const waiting = QApplication::activeModalWidget()) {
+        waiting->raise();
+        waiting->activateWindow();
+    }
+}
+
 void MainWindow::showCommit()
 {
     m_model->showChanges(m_core.record());

@@ -24,6 +24,8 @@ public:
 
     /// Opens the settings, or brings them to the front when they are open.
     void openSettings();
+    /// Before all other windows, out of minimised, too.
+    void comeToFront();
     SettingsWindow* settingsWindow() const;
     /// Where skins are listed; empty until somebody fills it.
     QMenu* skinMenu() const { return m_skinMenu; }

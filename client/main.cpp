@@ -3,6 +3,7 @@
 #include "client/ClientOptions.h"
 #include "client/DataDirectory.h"
 #include "client/ExpectedHome.h"
+#include "client/FrontRequests.h"
 #include "client/Identity.h"
 #include "client/Instance.h"
 #include "client/InterfaceScale.h"
@@ -152,6 +153,21 @@ int runGallery(SkinSwitcher& skins, const QString& target)
     return QCoreApplication::exec();
 }
 
+// Puts in place what the client needs in its data directory. Returns what went wrong.
+QStringList moveIn(const DataDirectory& directory, const Instance& instance,
+                   const QStringList& arguments)
+{
+    QStringList troubles{directory.makeConfigDirectory()
+                             ? QString()
+                             : Client::tr("无法创建目录 %1").arg(directory.configDirectory()),
+                         instance.writeStart(QDir::currentPath(),
+                                             QCoreApplication::applicationFilePath(), arguments),
+                         instance.installRestarter(QCoreApplication::applicationDirPath()
+                                                   + QStringLiteral("/restart"))};
+    troubles.removeAll(QString());
+    return troubles;
+}
+
 int runClient(const SettingsModule& module, SkinSwitcher& skins, const QStringList& arguments)
 {
     const QString homeless = ExpectedHome::make();
@@ -159,31 +175,30 @@ int runClient(const SettingsModule& module, SkinSwitcher& skins, const QStringLi
         return fail(homeless);
     const DataDirectory directory(module.homePath());
     Instance instance(directory);
-    const QString taken = instance.claim();
-    if (!taken.isEmpty())
-        return fail(taken);
-    for (const QString& trouble :
-         {directory.makeConfigDirectory()
-              ? QString()
-              : Client::tr("无法创建目录 %1").arg(directory.configDirectory()),
-          instance.writeStart(QDir::currentPath(), QCoreApplication::applicationFilePath(),
-                              arguments),
-          instance.installRestarter(QCoreApplication::applicationDirPath()
-                                    + QStringLiteral("/restart"))}) {
-        if (!trouble.isEmpty())
-            tell(QMessageBox::Warning, trouble);
+    QString refusal = instance.claim();
+    if (instance.isTaken()) {
+        if (FrontRequests::send(directory))
+            return EXIT_SUCCESS;
+        refusal = instance.claim(); // the other may have ended meanwhile
     }
+    if (!refusal.isEmpty())
+        return fail(refusal);
 
+    QStringList troubles = moveIn(directory, instance, arguments);
     TradeCore core(directory);
     core.store().removeLeftovers();
     const RecordStore::LoadReport report = core.load();
+    if (!report.isClean())
+        troubles += report.message();
     int status;
     {
         MainWindow window(module, core, directory);
         skins.fill(window.skinMenu());
         window.show();
-        if (!report.isClean())
-            tell(QMessageBox::Warning, report.message());
+        const FrontRequests requests(directory);
+        QObject::connect(&requests, &FrontRequests::arrived, &window, &MainWindow::comeToFront);
+        for (const QString& trouble : qAsConst(troubles))
+            tell(QMessageBox::Warning, trouble);
         status = QCoreApplication::exec();
     }
     const QString failure = core.storeIfChanged();

@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
@@ -43,6 +44,9 @@ private Q_SLOTS:
     void secondRequestFindsTheSameWindow();
     void closeButtonOfTheWindow();
     void tellsWhenStoringFails();
+    void comesToTheFront_data();
+    void comesToTheFront();
+    void comesToTheFrontWithWhatWaits();
     void scrollsWhenTooSmall();
     void startSettings_data();
     void startSettings();
@@ -322,6 +326,44 @@ void tst_ClientWindow::tellsWhenStoringFails()
              qPrintable(answer.text()));
     QCOMPARE(m_core->GetTradeParm()->lockMinutes, 45);
     QCOMPARE(marked(), QStringList{QStringLiteral("lockMinutes")});
+}
+
+void tst_ClientWindow::comesToTheFront_data()
+{
+    QTest::addColumn<Qt::WindowStates>("before");
+    QTest::addColumn<Qt::WindowStates>("after");
+    using States = Qt::WindowStates;
+    QTest::newRow("open") << States(Qt::WindowNoState) << States(Qt::WindowNoState);
+    QTest::newRow("minimised") << States(Qt::WindowMinimized) << States(Qt::WindowNoState);
+    QTest::newRow("minimised from maximised")
+        << States(Qt::WindowMinimized | Qt::WindowMaximized) << States(Qt::WindowMaximized);
+}
+
+void tst_ClientWindow::comesToTheFront()
+{
+    QFETCH(const Qt::WindowStates, before);
+    QFETCH(const Qt::WindowStates, after);
+    m_window->setWindowState(before);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &other);
+    m_window->comeToFront();
+    QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->windowState() & ~Qt::WindowActive, after);
+}
+
+void tst_ClientWindow::comesToTheFrontWithWhatWaits()
+{
+    QMessageBox box(m_window.get());
+    box.open();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &other);
+    m_window->comeToFront();
+    QTRY_COMPARE(QApplication::activeWindow(), &box);
 }
 
 void tst_ClientWindow::scrollsWhenTooSmall()

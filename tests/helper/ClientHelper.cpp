@@ -1,10 +1,13 @@
-// A process for tests to kill.
+// A process for tests to start, and to kill.
 //
+//   clientHelper front HOME       asks the running client to come to the front; status 0 when it
+//                                 has answered
 //   clientHelper hold HOME        claims the data directory, says "held", then waits
 //   clientHelper save HOME FIRST  stores the records FIRST, FIRST + 1, ... without end, and
 //                                 says each number when its record is stored
 
 #include "client/DataDirectory.h"
+#include "client/FrontRequests.h"
 #include "client/Instance.h"
 #include "client/RecordStore.h"
 #include "helper/NumberedRecord.h"
@@ -30,6 +33,8 @@ int main(int argc, char** argv)
             pause();
         return 1;
     }
+    if (arguments.at(1) == QLatin1String("front"))
+        return FrontRequests::send(directory) ? 0 : 1;
     RecordStore store(directory);
     for (int number = arguments.value(3).toInt();; ++number) {
         if (!store.save(numberedRecord(number)).isEmpty())
