@@ -641,14 +641,6 @@ Change the values marked red until they turn green, then press OK again.</transl
 <context>
     <name>Client</name>
     <message>
-        <source>交易客户端</source>
-        <translation>Trading Client</translation>
-    </message>
-    <message>
-        <source>设置模块 %1 无法创建设置窗口</source>
-        <translation>The settings module %1 could not create the settings window</translation>
-    </message>
-    <message>
         <source>无法创建目录 %1</source>
         <translation>Cannot create the directory %1</translation>
     </message>
@@ -659,10 +651,6 @@ Change the values marked red until they turn green, then press OK again.</transl
     <message>
         <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
         <translation>The skin %1 cannot be used. The built-in light skin is used instead.</translation>
-    </message>
-    <message>
-        <source>无法写入标准输出：%1</source>
-        <translation>Cannot write to the standard output: %1</translation>
     </message>
 </context>
 <context>
@@ -1338,6 +1326,17 @@ Data directory: %3</translation>
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>无法写入标准输出：%1</source>
+        <translation>Cannot write to the standard output: %1</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+</context>
+<context>
     <name>Pictures</name>
     <message>
         <source>无法创建目录 %1</source>
@@ -1346,6 +1345,13 @@ Data directory: %3</translation>
     <message>
         <source>无法写入 %1</source>
         <translation>Cannot write %1</translation>
+    </message>
+</context>
+<context>
+    <name>Reading</name>
+    <message>
+        <source>设置模块 %1 无法创建设置窗口</source>
+        <translation>The settings module %1 could not create the settings window</translation>
     </message>
 </context>
 <context>

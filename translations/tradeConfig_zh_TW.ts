@@ -641,14 +641,6 @@
 <context>
     <name>Client</name>
     <message>
-        <source>交易客户端</source>
-        <translation>交易用戶端</translation>
-    </message>
-    <message>
-        <source>设置模块 %1 无法创建设置窗口</source>
-        <translation>設定模組 %1 無法建立設定視窗</translation>
-    </message>
-    <message>
         <source>无法创建目录 %1</source>
         <translation>無法建立目錄 %1</translation>
     </message>
@@ -659,10 +651,6 @@
     <message>
         <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
         <translation>無法使用外觀 %1，已改用內建的淺色外觀。</translation>
-    </message>
-    <message>
-        <source>无法写入标准输出：%1</source>
-        <translation>無法寫入標準輸出：%1</translation>
     </message>
 </context>
 <context>
@@ -1336,6 +1324,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>无法写入标准输出：%1</source>
+        <translation>無法寫入標準輸出：%1</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+</context>
+<context>
     <name>Pictures</name>
     <message>
         <source>无法创建目录 %1</source>
@@ -1344,6 +1343,13 @@
     <message>
         <source>无法写入 %1</source>
         <translation>無法寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Reading</name>
+    <message>
+        <source>设置模块 %1 无法创建设置窗口</source>
+        <translation>設定模組 %1 無法建立設定視窗</translation>
     </message>
 </context>
 <context>
