@@ -45,6 +45,29 @@ QFont fittingFont(QFont font, int height)
     return font;
 }
 
+bool asksForRoom(QLayoutItem& item)
+{
+    if (item.expandingDirections().testFlag(Qt::Horizontal))
+        return true;
+    if (item.isEmpty() || !item.widget())
+        return false;
+    const QSizePolicy policy = item.widget()->sizePolicy();
+    return policy.horizontalPolicy() == QSizePolicy::Ignored || policy.horizontalStretch() > 0;
+}
+
+// A row that expands when one of its items asks for room, in whatever way.
+class ButtonRow : public QHBoxLayout {
+public:
+    Qt::Orientations expandingDirections() const override
+    {
+        for (int index = 0; index < count(); ++index) {
+            if (asksForRoom(*itemAt(index)))
+                return Qt::Horizontal;
+        }
+        return {};
+    }
+};
+
 // Takes what is left of the row as long as nothing among the buttons asks for it.
 class TitleItem : public QWidgetItem {
 public:
@@ -74,7 +97,7 @@ CCaptionBar::CCaptionBar(QWidget* parent)
 
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(5, 3, 5, 3);
-    buttonLayout = new QHBoxLayout;
+    buttonLayout = new ButtonRow;
     buttonLayout->setSpacing(buttonSpacing);
     if (flags.testFlag(Qt::WindowSystemMenuHint))
         addLogo(row);

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void widgetsAndItemsAreAppended();
     void addedPartsGetTheRoomTheyAskFor_data();
     void addedPartsGetTheRoomTheyAskFor();
+    void stretchedWidgetGetsTheRoom();
     void expandingItemGetsTheRoom();
     void expandingWidgetComesAndGoes();
     void textsAreTranslated();
@@ -436,6 +437,7 @@ void tst_CaptionBar::addedPartsGetTheRoomTheyAskFor_data()
     const int noTitle = int(AllHints & ~Qt::WindowTitleHint);
     QTest::newRow("Expanding") << int(QSizePolicy::Expanding) << all << true;
     QTest::newRow("MinimumExpanding") << int(QSizePolicy::MinimumExpanding) << all << true;
+    QTest::newRow("Ignored") << int(QSizePolicy::Ignored) << all << true;
     QTest::newRow("Preferred") << int(QSizePolicy::Preferred) << all << false;
     QTest::newRow("Minimum") << int(QSizePolicy::Minimum) << all << false;
     QTest::newRow("Fixed") << int(QSizePolicy::Fixed) << all << false;
@@ -478,6 +480,25 @@ void tst_CaptionBar::addedPartsGetTheRoomTheyAskFor()
     const int logo = hints == 0 ? 0 : 12;
     QVERIFY(added->width() <= 400 - 10 - logo - needed - buttons);
     QVERIFY(added->width() > 400 - 10 - logo - needed - buttons - 30); // spacing between the parts
+}
+
+void tst_CaptionBar::stretchedWidgetGetsTheRoom()
+{
+    Framed framed;
+    framed.window.setWindowTitle(QStringLiteral("交易设置"));
+    auto* const label = new QLabel(QStringLiteral("状态"));
+    QSizePolicy policy = label->sizePolicy();
+    QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Preferred);
+    framed.bar->addCaptionWidget(label);
+    framed.window.show();
+    label->show();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(label->width(), label->sizeHint().width());
+    policy.setHorizontalStretch(1);
+    label->setSizePolicy(policy);
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(label->width() > 200);
+    QCOMPARE(framed.bar->titleLabel->width(), framed.bar->titleLabel->sizeHint().width());
 }
 
 void tst_CaptionBar::expandingItemGetsTheRoom()
