@@ -57,6 +57,7 @@ private Q_SLOTS:
     void selectingFromTheProgram();
     void modifying();
     void clearing();
+    void clearingFreesTheItems();
     void theDestructorFreesNoItems();
     void anActionMayClearOrDeleteTheBar();
     void menus_data();
@@ -1065,6 +1066,18 @@ void tst_SwitchEx::clearing()
 
     QCOMPARE(bar.add(1).first()->rect, QRectF(0, 0, 50, 40));
     QCOMPARE(bar.visibleCount, 1);
+}
+
+void tst_SwitchEx::clearingFreesTheItems()
+{
+    Bar bar(Qt::Horizontal, QSize(300, 40));
+    const auto held = std::make_shared<int>();
+    for (const bool atEnd : {false, true})
+        bar.AddNormalSwitch(
+            text("x"), [held] {}, atEnd);
+    QCOMPARE(held.use_count(), 3L);
+    bar.ClearAll();
+    QCOMPARE(held.use_count(), 1L);
 }
 
 void tst_SwitchEx::theDestructorFreesNoItems()
