@@ -63,6 +63,8 @@ private Q_SLOTS:
     void textIsReadable();
     void disabledTextIsReadable_data();
     void disabledTextIsReadable();
+    void greyArrowIsSeen_data();
+    void greyArrowIsSeen();
     void marksAreReadable_data();
     void marksAreReadable();
     void documentNamesEveryKey();
@@ -265,6 +267,7 @@ void tst_SkinShipped::textIsReadable_data()
         {"WindowText", "FrameCaption"},
         {"Text", "Base"},
         {"Text", "AlternateBase"},
+        {"PlaceholderText", "Base"},
         {"ButtonText", "Button"},
         {"HighlightedText", "Highlight"},
         {"Link", "Window"},
@@ -326,8 +329,23 @@ void tst_SkinShipped::disabledTextIsReadable()
     QVERIFY2(ratio >= 3.0, qPrintable(QString::number(ratio)));
 }
 
-// The sheets' red and green are fixed. No ground suits both: red reaches 4.0 on white and 5.3 on
-// black, green 5.1 and 4.1.
+void tst_SkinShipped::greyArrowIsSeen_data() { loadsWithoutProblems_data(); }
+
+void tst_SkinShipped::greyArrowIsSeen()
+{
+    QFETCH(const QString, skin);
+    QVERIFY(SkinLibrary::instance()->load(skin));
+    const auto colour
+        = [](const char* key) { return SkinLibrary::instance()->colour(QString::fromLatin1(key)); };
+    const QColor arrow = colour("SwitchFgDisable");
+    // On the bar, and in the mode of images on the window.
+    for (const QColor& ground : {colour("SwitchBackground"), colour("FrameClient"),
+                                 SkinLibrary::instance()->palette().color(QPalette::Window)})
+        QVERIFY2(contrast(arrow, ground) >= 3.0, qPrintable(ground.name()));
+}
+
+// The sheets' red and green are fixed, what is painted is a shade of them. No ground suits both:
+// red reaches 4.0 on white and 5.3 on black, green 5.1 and 4.1.
 void tst_SkinShipped::marksAreReadable_data()
 {
     QTest::addColumn<QString>("skin");
