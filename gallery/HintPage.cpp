@@ -1,6 +1,7 @@
 #include "gallery/GalleryParts.h"
 #include "gallery/PageBuilder.h"
 #include "gallery/Pages.h"
+#include "tradeConfig/MarkShade.h"
 #include "tradeConfig/TableLineEdit.h"
 
 #include <QPushButton>
@@ -60,7 +61,8 @@ QWidget* hints()
     for (const Cell& cell : cells) {
         auto* const editor = new CTableLineEdit(row++);
         editor->setText(cell.text);
-        editor->setStyleSheet(cell.sheet);
+        if (!cell.sheet.isEmpty())
+            MarkShade::replaceSheet(*editor, cell.sheet);
         editor->setFixedWidth(120);
         put(shelf, editor, cell.name);
     }

@@ -1,7 +1,11 @@
 #include "tradeConfig/TipLabel.h"
 
+#include "tradeConfig/ReadableColour.h"
+
 #include <QGraphicsOpacityEffect>
+#include <QPainter>
 #include <QPropertyAnimation>
+#include <QStyle>
 
 namespace {
 
@@ -66,4 +70,17 @@ void CTipLabel::SetAutoHide()
     fade->setEndValue(0.0);
     fade->start(QAbstractAnimation::DeleteWhenStopped);
     connect(fade, &QAbstractAnimation::finished, this, &QWidget::hide);
+}
+
+void CTipLabel::paintEvent(QPaintEvent*)
+{
+    // A label takes the colour of its style sheet as it is, past its palette.
+    QPalette shaded = palette();
+    shaded.setColor(
+        foregroundRole(),
+        ReadableColour::on(shaded.color(backgroundRole()), shaded.color(foregroundRole())));
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(),
+                          int(QStyle::visualAlignment(layoutDirection(), alignment())), shaded,
+                          isEnabled(), text(), foregroundRole());
 }

@@ -10,7 +10,8 @@ class CTipLabel : public QLabel {
     Q_OBJECT
 
 public:
-    /// A label of 160 by 20 pixels. Its colour is chosen here and stays.
+    /// A label of 160 by 20 pixels. Its colour is chosen here and stays; it is painted in a shade
+    /// that can be read on the window.
     CTipLabel(const QString& text, bool isError, QWidget* parent);
 
     /// Replaces the text; neither shows nor hides the label.
@@ -20,4 +21,7 @@ public:
     /// starts one of its own; the latest alone rules the opacity, but every one hides the label
     /// at its end.
     void SetAutoHide();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };

@@ -37,7 +37,7 @@ struct House {
 constexpr const char* skinService = "SkinExport SkinLibrary SkinTable";
 constexpr const char* moduleForHosts = "ITrade ModuleEntry PackedText platform/HostPlatform skin/*";
 constexpr const char* kitForHosts
-    = "CaptionBar ImageButton MessageBox NavWidget PageStack SwitchEx "
+    = "CaptionBar ImageButton MarkShade MessageBox NavWidget PageStack SwitchEx "
       "TableLineEdit TipLabel WrapLabel skin/*";
 
 const House& house()
@@ -58,11 +58,12 @@ const House& house()
             {"tradeConfig/dialog/ButtonKeys tradeConfig/dialog/ChoiceLists "
              "tradeConfig/dialog/InterfaceSettings tradeConfig/dialog/PageKeys "
              "tradeConfig/dialog/RisePrice tradeConfig/dialog/RowLabels "
-             "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StyleMark "
+             "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StatusDelegate "
+             "tradeConfig/dialog/StyleMark "
              "tradeConfig/dialog/TabWalk tradeConfig/dialog/WheelGuard"},
             {"tradeConfig/dialog/CodeList tradeConfig/dialog/FormText "
              "tradeConfig/dialog/QuantityValidator "
-             "tradeConfig/dialog/SheetFont tradeConfig/dialog/SplitRules"},
+             "tradeConfig/dialog/SplitRules"},
             {"tradeConfig/ui_CTradeConfigWidget"},
 
             {"tradeConfig/MessageBox"},
@@ -73,9 +74,11 @@ const House& house()
             {"tradeConfig/SwitchEx tradeConfig/SwitchExEvents tradeConfig/SwitchExLayout "
              "tradeConfig/SwitchExPaint",
              true},
-            {"tradeConfig/ImageButton tradeConfig/NavWidget tradeConfig/PageStack "
+            {"tradeConfig/ImageButton tradeConfig/MarkShade tradeConfig/NavWidget "
+             "tradeConfig/PageStack "
              "tradeConfig/TableLineEdit tradeConfig/TipLabel tradeConfig/WrapLabel"},
-            {"tradeConfig/PartEvents tradeConfig/PartsAccessible tradeConfig/SwitchAxis"},
+            {"tradeConfig/PartEvents tradeConfig/PartsAccessible tradeConfig/ReadableColour "
+             "tradeConfig/SheetFont tradeConfig/SwitchAxis"},
 
             {"tradeConfig/skin/*", true},
             {"tradeConfig/platform/*", true},

@@ -2,6 +2,7 @@
 
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/dialog/FormText.h"
+#include "tradeConfig/dialog/StatusDelegate.h"
 #include "tradeConfig/dialog/StyleMark.h"
 
 #include "ui_CTradeConfigWidget.h"
@@ -185,7 +186,7 @@ int ShortcutTable::firstDuplicate(const QStringList& texts, int row, const QStri
 void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* captor, int row,
                                 const QString& text, const Check& check) const
 {
-    const QTableWidget& widget = *(ui.*table);
+    QTableWidget& widget = *(ui.*table);
     if (check.verdict == Verdict::Emptied) {
         if (captor)
             captor->setText(FormText::tr("空"));
@@ -206,6 +207,7 @@ void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* capt
         status
             = FormText::tr("与%1重复").arg(textOf(widget.item(check.duplicateRow, FunctionColumn)));
     if (QTableWidgetItem* const item = widget.item(row, StatusColumn)) {
+        StatusDelegate::paintColumn(widget, StatusColumn);
         item->setForeground(QBrush(accepted ? Qt::green : Qt::red));
         item->setText(status);
     }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+class QLineEdit;
+
+/**
+ * Keeps the text of a line edit readable whose style sheet says its colour: it is painted in a
+ * shade of that colour that can be read on the field, whatever the palette becomes.
+ *
+ * At each painting a line edit takes the colour of its sheet anew, past its palette. Only the
+ * formats of an input method's text come after that.
+ */
+class MarkShade : public QObject {
+    Q_OBJECT
+public:
+    /// Gives @p input another style sheet. The font stays.
+    static void replaceSheet(QLineEdit& input, const QString& sheet);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    explicit MarkShade(QLineEdit& input);
+    void apply();
+
+    QLineEdit& m_input; ///< the parent
+    bool m_replacing = false;
+};
