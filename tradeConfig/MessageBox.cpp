@@ -63,6 +63,18 @@ constexpr ButtonRow buttonRows[] = {
     {QMessageBox::RestoreDefaults, QT_TRANSLATE_NOOP("CMessageBox", "还原默认值"), false},
 };
 
+bool answersBox(const QKeyEvent& press)
+{
+    switch (press.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        return true;
+    default:
+        return press.matches(QKeySequence::Cancel);
+    }
+}
+
 } // namespace
 
 CMessageBox::CMessageBox(QWidget* parent, QMessageBox::Icon iconKind, const QString& text,
@@ -170,11 +182,11 @@ void CMessageBox::showEvent(QShowEvent* event)
 
 bool CMessageBox::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::KeyRelease)
+        m_heldKeys.noteRelease(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::KeyPress) {
         const auto& press = *static_cast<QKeyEvent*>(event);
-        const bool answers = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter
-            || press.matches(QKeySequence::Cancel);
-        if (answers && press.isAutoRepeat())
+        if (answersBox(press) && !m_heldKeys.isPressedHere(press))
             return true;
     }
     return QDialog::eventFilter(watched, event);

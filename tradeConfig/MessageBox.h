@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tradeConfig/HeldKeys.h"
+
 #include "ui_MessageBox.h"
 
 #include <QDialog>
@@ -53,4 +55,6 @@ private:
     void showIcon(QMessageBox::Icon iconKind);
     void assignButtons(QMessageBox::StandardButtons buttons);
     void showCountdown();
+
+    HeldKeys m_heldKeys;
 };

@@ -7,19 +7,6 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 
-namespace {
-
-// A held key goes on repeating when Shift comes or goes, as another Qt::Key. The window system's
-// codes stay, but not every system tells both.
-quint32 physicalKey(const QKeyEvent& event)
-{
-    if (event.nativeScanCode() != 0)
-        return event.nativeScanCode();
-    return event.nativeVirtualKey() != 0 ? event.nativeVirtualKey() : quint32(event.key());
-}
-
-} // namespace
-
 CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
     : QLineEdit(parent)
     , row(tableRow)
@@ -58,7 +45,7 @@ void CTableLineEdit::contextMenuEvent(QContextMenuEvent* event)
 
 void CTableLineEdit::focusOutEvent(QFocusEvent* event)
 {
-    m_pressedHere.clear();
+    m_heldKeys.forget();
     QLineEdit::focusOutEvent(event);
 }
 
@@ -71,9 +58,7 @@ void CTableLineEdit::keyPressEvent(QKeyEvent* event)
     }
     if (key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_Meta)
         return;
-    if (!event->isAutoRepeat())
-        m_pressedHere.insert(physicalKey(*event));
-    else if (!m_pressedHere.contains(physicalKey(*event)))
+    if (!m_heldKeys.isPressedHere(*event))
         return;
 
     const Qt::KeyboardModifiers modifiers = event->modifiers();
@@ -88,4 +73,10 @@ void CTableLineEdit::keyPressEvent(QKeyEvent* event)
 
     setText(QKeySequence(key).toString(QKeySequence::NativeText));
     Q_EMIT signal_editFinished(row, text());
+}
+
+void CTableLineEdit::keyReleaseEvent(QKeyEvent* event)
+{
+    m_heldKeys.noteRelease(*event);
+    QLineEdit::keyReleaseEvent(event);
 }

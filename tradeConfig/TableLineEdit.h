@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tradeConfig/HeldKeys.h"
+
 #include <QLineEdit>
-#include <QSet>
 
 /**
  * The key-capture cell of a hotkey table.
@@ -32,9 +33,10 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
     int row;
 
 private:
-    QSet<quint32> m_pressedHere; ///< physical keys that went down while the cell had the focus
+    HeldKeys m_heldKeys;
 };

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void heldKeyChangesWithShift();
     void keyHeldSinceElsewhere_data();
     void keyHeldSinceElsewhere();
+    void keyHeldSinceElsewhereInHalves();
     void keyHeldWhileTheFocusLeft();
     void disabledTakesNoKeys();
 
@@ -438,6 +439,47 @@ void tst_TableLineEdit::keyHeldSinceElsewhere()
     strike(host.editor, Strike::Press, Qt::Key(key), held);
     QCOMPARE(host.editor->text(), QString::fromLatin1(QTest::currentDataTag()));
     QCOMPARE(reported.size(), 2);
+}
+
+// X11 sends a repeat as a release and a press of one time. The toolkit joins them when it has
+// both at once; otherwise they look like the user's.
+void tst_TableLineEdit::keyHeldSinceElsewhereInHalves()
+{
+    const auto send = [](QWidget* widget, QEvent::Type type, ulong time, quint32 scanCode = 24) {
+        QKeyEvent event(type, Qt::Key_Q, Qt::NoModifier, scanCode, 'q', 0);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(widget, &event);
+    };
+    CTableLineEdit cell(0);
+    cell.setText(QStringLiteral("F9"));
+    const QSignalSpy reported(&cell, &CTableLineEdit::signal_editFinished);
+    for (const ulong time : {5000UL, 5040UL}) {
+        send(&cell, QEvent::KeyRelease, time);
+        send(&cell, QEvent::KeyPress, time);
+    }
+    strike(&cell, Strike::Repeat, Qt::Key_Q, Qt::NoModifier, 24, 'q');
+    QCOMPARE(cell.text(), QStringLiteral("F9"));
+    QCOMPARE(reported.size(), 0);
+    // Another key at that time is not the one that is held.
+    send(&cell, QEvent::KeyRelease, 5080);
+    send(&cell, QEvent::KeyPress, 5080, 25);
+    QCOMPARE(reported.size(), 1);
+    // Released, and pressed again by the user.
+    send(&cell, QEvent::KeyRelease, 5100);
+    send(&cell, QEvent::KeyPress, 5101);
+    QCOMPARE(reported.size(), 2);
+    // From now on it is a key of this cell.
+    send(&cell, QEvent::KeyRelease, 5600);
+    send(&cell, QEvent::KeyPress, 5600);
+    QCOMPARE(reported.size(), 3);
+    // A program that presses keys gives no codes, and may do all of it at one time.
+    CTableLineEdit other(0);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent event(type, Qt::Key_Q, Qt::NoModifier);
+        event.setTimestamp(5000);
+        QCoreApplication::sendEvent(&other, &event);
+    }
+    QCOMPARE(other.text(), QStringLiteral("Q"));
 }
 
 void tst_TableLineEdit::keyHeldWhileTheFocusLeft()

@@ -77,6 +77,7 @@ const House& house()
             {"tradeConfig/ImageButton tradeConfig/MarkShade tradeConfig/NavWidget "
              "tradeConfig/PageStack "
              "tradeConfig/TableLineEdit tradeConfig/TipLabel tradeConfig/WrapLabel"},
+            {"tradeConfig/HeldKeys"},
             {"tradeConfig/PartEvents tradeConfig/PartsAccessible tradeConfig/ReadableColour "
              "tradeConfig/SheetFont tradeConfig/SwitchAxis"},
 

@@ -21,7 +21,7 @@ public:
         column->addWidget(field);
         column->addWidget(cell);
         show();
-        exposed = QTest::qWaitForWindowExposed(this);
+        exposed = QTest::qWaitForWindowExposed(this, patience);
         activate(*this);
         cell->setFocus();
     }
@@ -213,7 +213,7 @@ void tst_KitOnScreen::boxDraggedAsSoonAsItIsShown()
                     QStringLiteral("部分修改需要重启后生效，确定现在重启吗？"),
                     QStringLiteral("tradeclient"), QMessageBox::Yes | QMessageBox::No, -1);
     box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(QTest::qWaitForWindowExposed(&box, patience));
     const QPoint before = placeOf(box);
     QVERIFY(before.x() > 100 && before.y() > 100); // the window manager's choice, not the corner
     const QPoint grip = before + box.caption->mapTo(&box, box.caption->rect().center());
@@ -246,7 +246,7 @@ void tst_KitOnScreen::boxNarrowedByTheWindowManager()
                     QStringLiteral("Some changes need a restart. ").repeated(5),
                     QStringLiteral("tradeclient"), QMessageBox::Yes | QMessageBox::No, -1);
     box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(QTest::qWaitForWindowExposed(&box, patience));
     const QSize narrow(box.minimumWidth() + 20, 500);
     QVERIFY(narrow.width() < box.width() - 100);
     xdotool({QStringLiteral("windowsize"), QString::number(box.winId()),
