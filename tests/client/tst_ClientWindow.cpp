@@ -6,6 +6,7 @@
 #include "client/StartSettings.h"
 #include "client/TradeCore.h"
 #include "support/Files.h"
+#include "support/KeyText.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 
@@ -143,7 +144,7 @@ void tst_ClientWindow::showsMeanings_data()
     row("lockMinutes", "30", "30 分钟");
     row("uiPageMode", "2", "显示");
     row("reservedA", "00000000", "由客户端保留");
-    row("stockShortcuts[5]", "Ctrl+R", "");
+    row("stockShortcuts[5]", keyText("Ctrl+R").toUtf8().constData(), "");
 }
 
 void tst_ClientWindow::showsMeanings()

@@ -1,3 +1,4 @@
+#include "support/KeyText.h"
 #include "support/MessageCapture.h"
 #include "support/TestDialog.h"
 #include "support/TestMain.h"
@@ -139,7 +140,7 @@ void tst_TableLineEdit::modifiers_data()
     const int control = Qt::ControlModifier;
     const int alt = Qt::AltModifier;
     const auto row = [](int key, int modifiers, const char* text) {
-        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+        QTest::newRow(text) << key << modifiers << keyText(text);
     };
     row(Qt::Key_A, 0, "A");
     row(Qt::Key_A, shift, "Shift+A");
@@ -178,9 +179,7 @@ void tst_TableLineEdit::namedKeys_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<QString>("text");
-    const auto row = [](int key, const char* text) {
-        QTest::newRow(text) << key << QString::fromLatin1(text);
-    };
+    const auto row = [](int key, const char* text) { QTest::newRow(text) << key << keyText(text); };
     row(Qt::Key_Backspace, "Backspace");
     row(Qt::Key_Delete, "Del");
     row(Qt::Key_Insert, "Ins");
@@ -241,7 +240,7 @@ void tst_TableLineEdit::bareModifiers()
     QCOMPARE(editor.text(), QStringLiteral("F8"));
     QCOMPARE(reported.size(), 0);
     QTest::keyClick(&editor, Qt::Key_A, Qt::ShiftModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Shift+A"));
+    QCOMPARE(editor.text(), keyText("Shift+A"));
     QCOMPARE(reported.size(), 1);
 }
 
@@ -279,9 +278,9 @@ void tst_TableLineEdit::keypadIsIgnored_data()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
     QTest::newRow("5") << int(Qt::Key_5) << int(Qt::KeypadModifier) << "5";
-    QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "Enter";
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << keyText("Enter");
     QTest::newRow("Ctrl+5") << int(Qt::Key_5) << int(Qt::KeypadModifier | Qt::ControlModifier)
-                            << "Ctrl+5";
+                            << keyText("Ctrl+5");
     QTest::newRow("group switch") << int(Qt::Key_A) << int(Qt::GroupSwitchModifier) << "A";
 }
 
@@ -345,12 +344,12 @@ void tst_TableLineEdit::repeatedPress()
     const QSignalSpy reported(&editor, &CTableLineEdit::signal_editFinished);
     for (int press = 0; press < 3; ++press)
         QTest::keyClick(&editor, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Ctrl+A"));
+    QCOMPARE(editor.text(), keyText("Ctrl+A"));
     QCOMPARE(reported.size(), 3);
-    QCOMPARE(reported.at(2).at(1).toString(), QStringLiteral("Ctrl+A"));
+    QCOMPARE(reported.at(2).at(1).toString(), keyText("Ctrl+A"));
     // One chord only, never a sequence.
     QTest::keyClick(&editor, Qt::Key_B, Qt::ControlModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Ctrl+B"));
+    QCOMPARE(editor.text(), keyText("Ctrl+B"));
 }
 
 void tst_TableLineEdit::heldKeyRepeatsItself()
@@ -363,13 +362,13 @@ void tst_TableLineEdit::heldKeyRepeatsItself()
         QCoreApplication::sendEvent(&editor, &release);
         strike(&editor, Strike::Repeat, Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(reported.size(), 1 + repeats);
-        QCOMPARE(reported.last(), QVariantList({4, QStringLiteral("Ctrl+A")}));
+        QCOMPARE(reported.last(), QVariantList({4, keyText("Ctrl+A")}));
     }
     // A key that does not repeat itself, pressed meanwhile, does not end it.
     strike(&editor, Strike::Press, Qt::Key_CapsLock, Qt::ControlModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Ctrl+CapsLock"));
+    QCOMPARE(editor.text(), keyText("Ctrl+CapsLock"));
     strike(&editor, Strike::Repeat, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(editor.text(), QStringLiteral("Ctrl+A"));
+    QCOMPARE(editor.text(), keyText("Ctrl+A"));
 }
 
 void tst_TableLineEdit::heldKeyChangesWithShift_data()
@@ -393,7 +392,7 @@ void tst_TableLineEdit::heldKeyChangesWithShift()
     strike(&editor, Strike::Press, Qt::Key_Shift, Qt::ShiftModifier);
     strike(&editor, Strike::Repeat, Qt::Key_Exclam, Qt::ShiftModifier, quint32(scanCode),
            quint32(virtualKeyThen));
-    QCOMPARE(editor.text(), QStringLiteral("Shift+!"));
+    QCOMPARE(editor.text(), keyText("Shift+!"));
 }
 
 void tst_TableLineEdit::keyHeldSinceElsewhere_data()
@@ -437,7 +436,7 @@ void tst_TableLineEdit::keyHeldSinceElsewhere()
 
     strike(host.editor, Strike::Release, Qt::Key(key), held);
     strike(host.editor, Strike::Press, Qt::Key(key), held);
-    QCOMPARE(host.editor->text(), QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(host.editor->text(), keyText(QTest::currentDataTag()));
     QCOMPARE(reported.size(), 2);
 }
 
@@ -515,7 +514,7 @@ void tst_TableLineEdit::windowShortcuts_data()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
     const auto row = [](int key, int modifiers, const char* text) {
-        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+        QTest::newRow(text) << key << modifiers << keyText(text);
     };
     row(Qt::Key_F5, 0, "F5");
     row(Qt::Key_Escape, 0, "Esc");
@@ -557,7 +556,7 @@ void tst_TableLineEdit::keysOfDialogAndTable_data()
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
     const auto row = [](int key, int modifiers, const char* text) {
-        QTest::newRow(text) << key << modifiers << QString::fromLatin1(text);
+        QTest::newRow(text) << key << modifiers << keyText(text);
     };
     row(Qt::Key_Escape, 0, "Esc");
     row(Qt::Key_Return, 0, "Return");
@@ -658,9 +657,9 @@ void tst_TableLineEdit::noPaste()
     QCOMPARE(host.editor->text(), QStringLiteral("F8"));
 
     QTest::keyClick(host.windowHandle(), Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+V"));
+    QCOMPARE(host.editor->text(), keyText("Ctrl+V"));
     QTest::keyClick(host.windowHandle(), Qt::Key_Insert, Qt::ShiftModifier);
-    QCOMPARE(host.editor->text(), QStringLiteral("Shift+Ins"));
+    QCOMPARE(host.editor->text(), keyText("Shift+Ins"));
 }
 
 void tst_TableLineEdit::noDrop()
@@ -704,7 +703,7 @@ void tst_TableLineEdit::noMenuByKey()
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(asked.size(), 0);
     QTest::keyClick(host.windowHandle(), Qt::Key_Menu, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+Shift+Menu"));
+    QCOMPARE(host.editor->text(), keyText("Ctrl+Shift+Menu"));
 }
 
 void tst_TableLineEdit::menuByMouse()
@@ -748,7 +747,7 @@ void tst_TableLineEdit::isAReadOnlyTextToAssistiveTechnology()
         QCOMPARE(bool(seen->state().focused), cell == host.editor);
         QCOMPARE(seen->text(QAccessible::Value), QString());
         QTest::keyClick(cell, Qt::Key_F7, Qt::ControlModifier);
-        QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("Ctrl+F7"));
+        QCOMPARE(seen->text(QAccessible::Value), keyText("Ctrl+F7"));
         cell->setText(QStringLiteral("空"));
         QCOMPARE(seen->text(QAccessible::Value), QStringLiteral("空"));
         cell->setAccessibleName(QStringLiteral("买入股票"));

@@ -1,3 +1,4 @@
+#include "support/KeyText.h"
 #include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
 #include "support/Shorten.h"
@@ -484,11 +485,11 @@ void Run::makeRecord(FakeTrade& trade, quint32 seed)
         const auto row = std::size_t(rowOfEntry[entry]);
         const QChar letter = QLatin1Char(char('A' + entry));
         m_model.tables[0].cells[row] = m_model.tables[0].stored[row]
-            = QStringLiteral("Ctrl+") + letter;
+            = keyText(QStringLiteral("Ctrl+") + letter);
         // Keys that the user presses as well, so that some are pressed where they are already.
-        const QByteArray key = chords[row + 3].text;
-        trade.setText(&TradeParm::creditShortcuts, entry, key);
-        m_model.tables[1].cells[row] = m_model.tables[1].stored[row] = QString::fromUtf8(key);
+        const QString key = keyText(chords[row + 3].text);
+        trade.setText(&TradeParm::creditShortcuts, entry, key.toUtf8());
+        m_model.tables[1].cells[row] = m_model.tables[1].stored[row] = key;
     }
     m_model.record = recordOf(trade);
     m_reserved = trade.reservedBytes();
@@ -614,7 +615,7 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
         QCoreApplication::sendEvent(cell, &press);
         const int onlyRow = m_model.tables[a].onlyRow;
         if (chord.text && (onlyRow < 0 || onlyRow == b))
-            m_model.tables[a].capture(a == 1, std::size_t(b), QString::fromLatin1(chord.text));
+            m_model.tables[a].capture(a == 1, std::size_t(b), keyText(chord.text));
         break;
     }
     case Kind::Confirm:

@@ -1,4 +1,5 @@
 #include "support/FakeTrade.h"
+#include "support/KeyText.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
 #include "tradeConfig/ModuleEntry.h"
@@ -197,7 +198,7 @@ void tst_RecordLayout::moduleUsesTheTwoEntriesOnly()
     QCOMPARE(calls.other, 0);
     QCOMPARE(owner.parm().defaultBuyPrice, 6);
     QCOMPARE(owner.parm().lockMinutes, 15);
-    QCOMPARE(owner.text(&TradeParm::stockShortcuts, 5), QByteArray("Ctrl+F"));
+    QCOMPARE(owner.text(&TradeParm::stockShortcuts, 5), keyText("Ctrl+F").toUtf8());
 }
 
 TRADECONFIG_TEST_MAIN(tst_RecordLayout)

@@ -1,4 +1,5 @@
 #include "support/BareForm.h"
+#include "support/KeyText.h"
 #include "support/TestDialog.h"
 #include "support/TestMain.h"
 #include "tradeConfig/TableLineEdit.h"
@@ -370,11 +371,11 @@ void tst_RecordRoundTrip::controlByControl()
     QCOMPARE(dialog.trade.defaultPage(), pageCombo ? QByteArray("ptmc") : page);
     QCOMPARE(dialog.trade.saves, 1);
     for (int entry = 0; entry < 13; ++entry) {
-        const char letter = char('A' + entry);
+        const QLatin1Char letter(char('A' + entry));
         QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, entry),
-                 QByteArray("Ctrl+") + letter);
+                 keyText(QStringLiteral("Ctrl+") + letter).toUtf8());
         QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, entry),
-                 QByteArray("Alt+") + letter);
+                 keyText(QStringLiteral("Alt+") + letter).toUtf8());
     }
 }
 
@@ -645,16 +646,18 @@ void tst_RecordRoundTrip::hotkeysByRow()
     QFETCH(int, row);
     QFETCH(int, entry);
     const TestDialog dialog;
-    const QString letter(QLatin1Char(char('A' + entry)));
+    const QLatin1Char letter(char('A' + entry));
+    const QString stock = keyText(QStringLiteral("Ctrl+") + letter);
+    const QString credit = keyText(QStringLiteral("Alt+") + letter);
     const auto cell = [row](const QTableWidget* table) {
         return qobject_cast<CTableLineEdit*>(table->cellWidget(row, 1))->text();
     };
-    QCOMPARE(cell(dialog->ui.tableWidget_shortcut), QStringLiteral("Ctrl+") + letter);
-    QCOMPARE(cell(dialog->ui.tableWidget_credit), QStringLiteral("Alt+") + letter);
+    QCOMPARE(cell(dialog->ui.tableWidget_shortcut), stock);
+    QCOMPARE(cell(dialog->ui.tableWidget_credit), credit);
     QCOMPARE(dialog->stockShortcutTexts.size(), 13);
     QCOMPARE(dialog->creditShortcutTexts.size(), 13);
-    QCOMPARE(dialog->stockShortcutTexts.at(row), QStringLiteral("Ctrl+") + letter);
-    QCOMPARE(dialog->creditShortcutTexts.at(row), QStringLiteral("Alt+") + letter);
+    QCOMPARE(dialog->stockShortcutTexts.at(row), stock);
+    QCOMPARE(dialog->creditShortcutTexts.at(row), credit);
 }
 
 void tst_RecordRoundTrip::hotkeyEditedInRow_data() { hotkeysByRow_data(); }
@@ -672,12 +675,14 @@ void tst_RecordRoundTrip::hotkeyEditedInRow()
     dialog.confirm();
     QCOMPARE(dialog.trade.saves, 1);
     for (int other = 0; other < 13; ++other) {
-        const char letter = char('A' + other);
+        const QLatin1Char letter(char('A' + other));
         const bool edited = other == entry;
-        QCOMPARE(dialog.trade.text(&TradeParm::stockShortcuts, other),
-                 edited ? QByteArray("Ctrl+Z") : QByteArray("Ctrl+") + letter);
-        QCOMPARE(dialog.trade.text(&TradeParm::creditShortcuts, other),
-                 edited ? QByteArray("Ctrl+Z") : QByteArray("Alt+") + letter);
+        QCOMPARE(
+            dialog.trade.text(&TradeParm::stockShortcuts, other),
+            keyText(edited ? QStringLiteral("Ctrl+Z") : QStringLiteral("Ctrl+") + letter).toUtf8());
+        QCOMPARE(
+            dialog.trade.text(&TradeParm::creditShortcuts, other),
+            keyText(edited ? QStringLiteral("Ctrl+Z") : QStringLiteral("Alt+") + letter).toUtf8());
     }
 }
 

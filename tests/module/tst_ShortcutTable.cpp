@@ -1,4 +1,5 @@
 #include "support/Contrast.h"
+#include "support/KeyText.h"
 #include "support/MarkingTranslator.h"
 #include "support/MessageCapture.h"
 #include "support/ModalAnswer.h"
@@ -236,7 +237,7 @@ void tst_ShortcutTable::globalTableIsFixed()
     // Nobody listens to these editors.
     Q_EMIT refresh->signal_editFinished(0, QStringLiteral("Ctrl+A"));
     QVERIFY(dialog->inputValidity.isEmpty());
-    QCOMPARE(dialog->stockShortcutTexts.at(0), QStringLiteral("Ctrl+A"));
+    QCOMPARE(dialog->stockShortcutTexts.at(0), keyText("Ctrl+A"));
     QCOMPARE(table.item(0, 2)->text(), normal);
     QCOMPARE(table.item(0, 2)->foreground().style(), Qt::NoBrush);
 }
@@ -373,8 +374,8 @@ void tst_ShortcutTable::freeKeyIsAccepted()
     QFETCH(bool, credit);
     const Side side(credit);
     side.capture(4, Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(side.editor(4).text(), QStringLiteral("Ctrl+Shift+X"));
-    QCOMPARE(side.texts.at(4), QStringLiteral("Ctrl+Shift+X"));
+    QCOMPARE(side.editor(4).text(), keyText("Ctrl+Shift+X"));
+    QCOMPARE(side.texts.at(4), keyText("Ctrl+Shift+X"));
     QCOMPARE(side.editor(4).styleSheet(), green);
     QCOMPARE(side.status(4), normal);
     QCOMPARE(side.statusBrush(4), QBrush(QColor(0, 255, 0)));
@@ -390,7 +391,8 @@ void tst_ShortcutTable::freeKeyIsAccepted()
         QCOMPARE(side.editor(row).styleSheet(), QStringLiteral("border:0px;"));
         QCOMPARE(side.statusBrush(row).style(), Qt::NoBrush);
         QCOMPARE(side.texts.at(row),
-                 (credit ? QStringLiteral("Alt+") : QStringLiteral("Ctrl+")) + lettersByRow[row]);
+                 keyText((credit ? QStringLiteral("Alt+") : QStringLiteral("Ctrl+"))
+                         + lettersByRow[row]));
     }
 }
 
@@ -403,14 +405,16 @@ void tst_ShortcutTable::everyRowStoresItsOwnKey()
     for (int row = 0; row < 13; ++row)
         side.capture(row, Qt::Key(Qt::Key_A + row), Qt::ControlModifier | Qt::AltModifier);
     for (int row = 0; row < 13; ++row)
-        QCOMPARE(side.texts.at(row), QStringLiteral("Ctrl+Alt+") + QLatin1Char(char('A' + row)));
+        QCOMPARE(side.texts.at(row),
+                 keyText(QStringLiteral("Ctrl+Alt+") + QLatin1Char(char('A' + row))));
     side.dialog->WriteAllParm();
     QCOMPARE(side.dialog.trade.saves, 1);
     // By record entry: the record keeps another order of the functions than the tables.
-    const QByteArray lettersByEntry = "ABEFGCDHIJKLM";
+    const QString lettersByEntry = QStringLiteral("ABEFGCDHIJKLM");
     const auto texts = credit ? &TradeParm::creditShortcuts : &TradeParm::stockShortcuts;
     for (int entry = 0; entry < 13; ++entry)
-        QCOMPARE(side.dialog.trade.text(texts, entry), "Ctrl+Alt+" + lettersByEntry.mid(entry, 1));
+        QCOMPARE(side.dialog.trade.text(texts, entry),
+                 keyText(QStringLiteral("Ctrl+Alt+") + lettersByEntry.at(entry)).toUtf8());
 }
 
 void tst_ShortcutTable::duplicateIsRefused_data() { bothTables(); }
@@ -442,8 +446,8 @@ void tst_ShortcutTable::duplicatesAreFoundInAscendingOrder()
 {
     QFETCH(bool, credit);
     const Side side(credit);
-    side.texts[9] = QStringLiteral("Ctrl+Alt+Q");
-    side.texts[6] = QStringLiteral("Ctrl+Alt+Q");
+    side.texts[9] = keyText("Ctrl+Alt+Q");
+    side.texts[6] = keyText("Ctrl+Alt+Q");
     side.capture(12, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(side.status(12), QStringLiteral("与委托重复"));
     side.capture(2, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
@@ -460,7 +464,7 @@ void tst_ShortcutTable::duplicateStaysStored()
     QFETCH(bool, credit);
     const Side side(credit);
     side.capture(4, Qt::Key_A, side.modifier);
-    QCOMPARE(side.texts.at(4), credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A"));
+    QCOMPARE(side.texts.at(4), keyText(credit ? "Alt+A" : "Ctrl+A"));
     QCOMPARE(side.editor(4).text(), side.texts.at(4));
 }
 
@@ -603,7 +607,7 @@ void tst_ShortcutTable::globalHotkeysAreExact()
 {
     const Side side(false);
     side.capture(7, Qt::Key_F5, Qt::ShiftModifier);
-    QCOMPARE(side.texts.at(7), QStringLiteral("Shift+F5"));
+    QCOMPARE(side.texts.at(7), keyText("Shift+F5"));
     QVERIFY(side.entry());
     Q_EMIT side.editor(7).signal_editFinished(7, QStringLiteral("f5"));
     QVERIFY(side.entry());
@@ -619,7 +623,7 @@ void tst_ShortcutTable::globalHotkeyComesBeforeTheDuplicate()
     side.texts[0] = QStringLiteral("F5");
     side.capture(7, Qt::Key_F5);
     QCOMPARE(side.status(7), QStringLiteral("F5为全局快捷键！"));
-    QCOMPARE(side.texts.at(7), QStringLiteral("Ctrl+H"));
+    QCOMPARE(side.texts.at(7), keyText("Ctrl+H"));
 }
 
 void tst_ShortcutTable::creditTakesGlobalHotkeys()
@@ -681,10 +685,13 @@ void tst_ShortcutTable::creditAloneWritesTheList()
 
     credit.capture(4, Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 1);
+    QStringList listed;
+    for (const char* const key : {"Alt+A", "Alt+B", "Alt+F", "Alt+G", "Ctrl+Y", "Alt+D", "Alt+E",
+                                  "Alt+H", "Alt+I", "Alt+J", "Alt+K", "Alt+L", "Alt+M"})
+        listed << QLatin1Char('"') + keyText(key) + QLatin1Char('"');
     QCOMPARE(log.texts().constLast(),
-             QStringLiteral("edit m_shortCutList2  (\"Alt+A\", \"Alt+B\", \"Alt+F\", \"Alt+G\", "
-                            "\"Ctrl+Y\", \"Alt+D\", \"Alt+E\", \"Alt+H\", \"Alt+I\", \"Alt+J\", "
-                            "\"Alt+K\", \"Alt+L\", \"Alt+M\")"));
+             QStringLiteral("edit m_shortCutList2  (") + listed.join(QStringLiteral(", "))
+                 + QLatin1Char(')'));
     credit.capture(5, Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(log.count(QStringLiteral("edit m_shortCutList2 ")), 2);
     // Neither an unchanged nor an empty key writes it.
@@ -774,8 +781,8 @@ void tst_ShortcutTable::everyRowOfTheTableIsFilled_data() { bothTables(); }
 void tst_ShortcutTable::everyRowOfTheTableIsFilled()
 {
     QFETCH(bool, credit);
-    const QString first = credit ? QStringLiteral("Alt+A") : QStringLiteral("Ctrl+A");
-    const QString last = credit ? QStringLiteral("Alt+M") : QStringLiteral("Ctrl+M");
+    const QString first = keyText(credit ? "Alt+A" : "Ctrl+A");
+    const QString last = keyText(credit ? "Alt+M" : "Ctrl+M");
     {
         // A row more than there are keys, with a plain editor.
         const Side side(credit);
@@ -796,8 +803,7 @@ void tst_ShortcutTable::everyRowOfTheTableIsFilled()
         side.editor(1).setText(QStringLiteral("old"));
         side.dialog->ReadAllParm();
         QCOMPARE(side.editor(0).text(), first);
-        QCOMPARE(side.editor(1).text(),
-                 credit ? QStringLiteral("Alt+B") : QStringLiteral("Ctrl+B"));
+        QCOMPARE(side.editor(1).text(), keyText(credit ? "Alt+B" : "Ctrl+B"));
         QCOMPARE(side.texts.size(), 13);
     }
 }
@@ -828,7 +834,7 @@ void tst_ShortcutTable::anotherCellIsStored()
     side.table.setCellWidget(8, 1, new QLineEdit(QStringLiteral("F8")));
     side.dialog->WriteAllParm();
     QCOMPARE(side.dialog.trade.text(keys, 8), QByteArray("F8"));
-    QCOMPARE(side.dialog.trade.text(keys, 9), credit ? QByteArray("Alt+J") : QByteArray("Ctrl+J"));
+    QCOMPARE(side.dialog.trade.text(keys, 9), keyText(credit ? "Alt+J" : "Ctrl+J").toUtf8());
 
     // The same when the one that stood there is gone at last.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -841,7 +847,7 @@ void tst_ShortcutTable::anotherCellIsStored()
     side.table.setRowCount(3);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     side.dialog->WriteAllParm();
-    QCOMPARE(side.dialog.trade.text(keys, 1), credit ? QByteArray("Alt+B") : QByteArray("Ctrl+B"));
+    QCOMPARE(side.dialog.trade.text(keys, 1), keyText(credit ? "Alt+B" : "Ctrl+B").toUtf8());
     QCOMPARE(side.dialog.trade.text(keys, 12), QByteArray());
     QCOMPARE(side.dialog.trade.saves, 4);
 }

@@ -1,5 +1,7 @@
 #include "support/FakeTrade.h"
 
+#include "support/KeyText.h"
+
 #include <cstring>
 
 FakeTrade::FakeTrade()
@@ -37,9 +39,11 @@ void FakeTrade::setText(Texts texts, int entry, const QByteArray& value)
 void FakeTrade::setDistinctShortcuts()
 {
     for (int entry = 0; entry < 13; ++entry) {
-        const char letter = char('A' + entry);
-        setText(&TradeParm::stockShortcuts, entry, QByteArray("Ctrl+") + letter);
-        setText(&TradeParm::creditShortcuts, entry, QByteArray("Alt+") + letter);
+        const QLatin1Char letter(char('A' + entry));
+        setText(&TradeParm::stockShortcuts, entry,
+                keyText(QStringLiteral("Ctrl+") + letter).toUtf8());
+        setText(&TradeParm::creditShortcuts, entry,
+                keyText(QStringLiteral("Alt+") + letter).toUtf8());
     }
 }
 

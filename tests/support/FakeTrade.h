@@ -49,7 +49,8 @@ public:
     QByteArray text(Texts texts, int entry) const;
     void setText(Texts texts, int entry, const QByteArray& value);
 
-    /// Thirteen distinct keys in each array: "Ctrl+A".. and "Alt+A" .. by entry.
+    /// Thirteen distinct keys in each array, as keyText() has them: "Ctrl+A" .. and "Alt+A" .. by
+    /// entry.
     void setDistinctShortcuts();
 
     /// The bytes of both reserved stretches, one after the other.
