@@ -19,7 +19,12 @@ constexpr int warmUps = 2;
 } // namespace
 
 // Outside any namespace and left alone by the optimiser, for callgrind to find it by its name.
-extern "C" __attribute__((noipa)) void countedRun(const Subject& subject) { subject.run(); }
+#ifdef __clang__
+#define LEFT_ALONE __attribute__((noinline))
+#else
+#define LEFT_ALONE __attribute__((noipa))
+#endif
+extern "C" LEFT_ALONE void countedRun(const Subject& subject) { subject.run(); }
 
 int main(int argc, char** argv)
 {

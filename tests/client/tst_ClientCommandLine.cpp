@@ -195,7 +195,7 @@ void tst_ClientCommandLine::moduleWithoutTheSymbol()
 void tst_ClientCommandLine::withoutADisplay()
 {
 #ifdef Q_OS_MACOS
-    QSKIP("There is always a display");
+    TEST_SKIP("There is always a display");
 #endif
     const Outcome outcome = run({});
     QCOMPARE(outcome.status, 1);

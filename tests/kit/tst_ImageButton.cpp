@@ -222,7 +222,7 @@ void tst_ImageButton::emptyImagesFallBack()
 void tst_ImageButton::emptyNormalImageIsAnError()
 {
 #ifdef QT_NO_DEBUG
-    QSKIP("assertions are off in this build");
+    TEST_SKIP("assertions are off in this build");
 #else
     const QString report = TestSupport::fatalMessage([] {
         CImageButton button(nullptr);

@@ -71,7 +71,7 @@ private:
 void tst_SkinAllocations::initTestCase()
 {
     if (!COUNTS_ALLOCATIONS)
-        QSKIP("allocations cannot be counted here");
+        TEST_SKIP("allocations cannot be counted here");
     QVERIFY(SkinLibrary::instance()->load(QStringLiteral("light")));
 }
 

@@ -469,12 +469,12 @@ void tst_SkinPaint::painterKeepsItsState()
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPainter::RenderHints hints = painter.renderHints();
     const QRectF rect(5, 5, 30, 30);
-    const QString green = QStringLiteral("Green");
-    skin()->fillRect(painter, rect, green);
-    skin()->drawRect(painter, rect, green, Qt::SolidLine, 1.0);
-    skin()->drawRect(painter, rect, green, Qt::DashLine, 2.0);
-    skin()->drawLine(painter, green, QPointF(1, 1), QPointF(9, 9), Qt::SolidLine, 1.0);
-    skin()->drawText(painter, rect, 0x184, green, QStringLiteral("Switch"), QStringLiteral("x"));
+    const QString colour = QStringLiteral("Green");
+    skin()->fillRect(painter, rect, colour);
+    skin()->drawRect(painter, rect, colour, Qt::SolidLine, 1.0);
+    skin()->drawRect(painter, rect, colour, Qt::DashLine, 2.0);
+    skin()->drawLine(painter, colour, QPointF(1, 1), QPointF(9, 9), Qt::SolidLine, 1.0);
+    skin()->drawText(painter, rect, 0x184, colour, QStringLiteral("Switch"), QStringLiteral("x"));
     skin()->drawImage(painter, rect, QStringLiteral("Strip"), 3, 1, true, true);
     skin()->drawImage(painter, rect, QStringLiteral("win_normal"), 3, 1, false, false);
     QCOMPARE(painter.pen(), pen);

@@ -14,6 +14,9 @@ void requireTests(const QMetaObject& testClass);
 
 } // namespace TestSupport
 
+/// QSKIP: clang objects to leaving out what follows the reason.
+#define TEST_SKIP(reason) QSKIP(reason, )
+
 /// main() of a test: prepared environment, application, one test class.
 #define TRADECONFIG_TEST_MAIN(TestClass)                                                           \
     int main(int argc, char** argv)                                                                \
