@@ -1,6 +1,7 @@
 #include "client/PlainSettings.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -21,10 +22,12 @@ QByteArray plainLines(const QByteArray& content)
     return plain;
 }
 
+// Nothing but files: a pipe would keep its reader waiting.
 QByteArray contentOf(const QString& name)
 {
     QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll()
+                                                                      : QByteArray();
 }
 
 } // namespace
@@ -33,6 +36,8 @@ QVariant PlainSettings::value(const QString& file, const QString& key)
 {
     const QByteArray content = contentOf(file);
     const QByteArray plain = plainLines(content);
+    if (plain.isEmpty())
+        return QVariant();
     if (plain == content)
         return QSettings(file, QSettings::IniFormat).value(key);
     QTemporaryFile copy;
@@ -44,7 +49,7 @@ QVariant PlainSettings::value(const QString& file, const QString& key)
 void PlainSettings::setValue(const QString& file, const QString& key, const QString& value)
 {
     const QByteArray content = contentOf(file);
-    if (plainLines(content) != content)
+    if (content.isEmpty() || plainLines(content) != content)
         QFile::remove(file);
     QSettings(file, QSettings::IniFormat).setValue(key, value);
 }

@@ -49,8 +49,8 @@ RecordStore::LoadReport RecordStore::read(OwnedRecord& record)
     const QFileInfo info(m_fileName);
     if (!info.exists() && !info.isSymLink())
         return report;
-    if (info.isDir())
-        return unusable(tr("无法读取：%1").arg(tr("是一个目录")));
+    if (info.exists() && !info.isFile())
+        return unusable(tr("无法读取：%1").arg(tr("不是普通文件")));
     QFile file(m_fileName);
     if (!file.open(QIODevice::ReadOnly))
         return unusable(tr("无法读取：%1").arg(file.errorString()));

@@ -1874,10 +1874,6 @@ Data directory: %3</translation>
         <translation>cannot be read: %1</translation>
     </message>
     <message>
-        <source>是一个目录</source>
-        <translation>is a directory</translation>
-    </message>
-    <message>
         <source>第 %1 字节处格式错误：%2</source>
         <translation>malformed at byte %1: %2</translation>
     </message>
@@ -1916,6 +1912,10 @@ Data directory: %3</translation>
     <message>
         <source>无法保留不可用的文件 %1</source>
         <translation>The unusable file %1 could not be kept</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>is not a regular file</translation>
     </message>
 </context>
 <context>

@@ -1872,10 +1872,6 @@
         <translation>無法讀取：%1</translation>
     </message>
     <message>
-        <source>是一个目录</source>
-        <translation>是一個目錄</translation>
-    </message>
-    <message>
         <source>第 %1 字节处格式错误：%2</source>
         <translation>第 %1 位元組處格式錯誤：%2</translation>
     </message>
@@ -1914,6 +1910,10 @@
     <message>
         <source>无法保留不可用的文件 %1</source>
         <translation>無法保留不可用的檔案 %1</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>不是一般檔案</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void readingLeavesNoTrace_data();
     void readingLeavesNoTrace();
     void readingBesideARunningClient();
+    void waitsForNoPipe();
 
 private:
     QString place(const QString& name) const { return m_scratch->filePath(name); }
@@ -316,6 +318,31 @@ void tst_ClientHome::readingBesideARunningClient()
     QCOMPARE(client.state(), QProcess::Running);
     client.terminate();
     QVERIFY(client.waitForFinished(patience));
+}
+
+// Whoever opens a pipe waits until somebody writes into it.
+void tst_ClientHome::waitsForNoPipe()
+{
+    const QString home = place(QStringLiteral("empty"));
+    const QString config = data(QStringLiteral("empty")) + QStringLiteral("/config/");
+    QVERIFY(QDir().mkpath(config));
+    for (const char* const name : {"system_settings.ini", "client.ini", "trade_parameters.json"}) {
+        const QByteArray pipe = QFile::encodeName(config + QLatin1String(name));
+        QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    }
+    QCOMPARE(run({QStringLiteral("--help")}, home).status, 0);
+    for (const QStringList& arguments :
+         {QStringList{QStringLiteral("--print-record")},
+          QStringList{QStringLiteral("--screenshots"), place(QStringLiteral("pictures"))}}) {
+        // The module reads its settings file as the toolkit does.
+        QFile::remove(config + QStringLiteral("system_settings.ini"));
+        const Outcome outcome = run(arguments, home);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(
+            outcome.errors.contains((config + QStringLiteral("trade_parameters.json")).toUtf8()),
+            outcome.errors.constData());
+        QVERIFY(outcome.output.count('\n') >= 10);
+    }
 }
 
 TRADECONFIG_TEST_MAIN(tst_ClientHome)
