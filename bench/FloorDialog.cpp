@@ -1,6 +1,7 @@
 #include "bench/FloorDialog.h"
 
 #include "tradeConfig/dialog/RowLabels.h"
+#include "tradeConfig/dialog/RuleLines.h"
 #include "tradeConfig/platform/HostPlatform.h"
 
 #include "ui_FloorForm.h"
@@ -105,6 +106,11 @@ FloorDialog::FloorDialog(KivoTrade::ITrade* trade)
     m_form->setupUi(this);
     RowLabels::fit(
         {m_form->page_3, m_form->page_4, m_form->page_5, m_form->page_6, m_form->page_7});
+    new RuleLines({m_form->line_2, m_form->line_3, m_form->line_4, m_form->line_5, m_form->line_6,
+                   m_form->line_7, m_form->line_8, m_form->line_9, m_form->line_10, m_form->line_11,
+                   m_form->line_12, m_form->line_13, m_form->line_14, m_form->line_15,
+                   m_form->line_16, m_form->line_28, m_form->line_29, m_form->line_30},
+                  this);
     buildNavigation(parm);
     buildTables(parm);
     fillChoices();

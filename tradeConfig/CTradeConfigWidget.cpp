@@ -13,6 +13,7 @@
 #include "tradeConfig/dialog/QuantityValidator.h"
 #include "tradeConfig/dialog/RisePrice.h"
 #include "tradeConfig/dialog/RowLabels.h"
+#include "tradeConfig/dialog/RuleLines.h"
 #include "tradeConfig/dialog/ShortcutTable.h"
 #include "tradeConfig/dialog/SplitGroup.h"
 #include "tradeConfig/dialog/TabWalk.h"
@@ -44,6 +45,10 @@ CTradeConfigWidget::CTradeConfigWidget(QWidget* parent)
 {
     ui.setupUi(this);
     RowLabels::fit({ui.page_3, ui.page_4, ui.page_5, ui.page_6, ui.page_7});
+    new RuleLines({ui.line_2, ui.line_3, ui.line_4, ui.line_5, ui.line_6, ui.line_7, ui.line_8,
+                   ui.line_9, ui.line_10, ui.line_11, ui.line_12, ui.line_13, ui.line_14,
+                   ui.line_15, ui.line_16, ui.line_28, ui.line_29, ui.line_30},
+                  this);
 }
 
 // Delegates, so that the destructor frees the bar's items when the host's core throws below.

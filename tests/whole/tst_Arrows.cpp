@@ -58,6 +58,7 @@ const House& house()
             {"tradeConfig/dialog/ButtonKeys tradeConfig/dialog/ChoiceLists "
              "tradeConfig/dialog/InterfaceSettings tradeConfig/dialog/PageKeys "
              "tradeConfig/dialog/RisePrice tradeConfig/dialog/RowLabels "
+             "tradeConfig/dialog/RuleLines "
              "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StatusDelegate "
              "tradeConfig/dialog/StyleMark "
              "tradeConfig/dialog/TabWalk tradeConfig/dialog/WheelGuard"},
