@@ -5,9 +5,9 @@
 say() { printf '== %s\n' "$*"; }
 
 if [ "$(uname)" = Darwin ]; then
-    . tools/setup-macos.sh
+    . "$(dirname "${BASH_SOURCE[0]}")/setup-macos.sh"
 else
-    . tools/setup-debian.sh
+    . "$(dirname "${BASH_SOURCE[0]}")/setup-debian.sh"
 fi
 
 # How many processes may run side by side. macOS has no nproc.
