@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTableView>
@@ -47,7 +48,8 @@ MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
             Qt::QueuedConnection);
 
     const QSize wanted(980, 680);
-    resize(wanted.boundedTo(screen()->availableSize() - QSize(0, 40)));
+    const QSize usualFrame(4, 40);
+    resize(wanted.boundedTo(screen()->availableSize() - usualFrame));
 }
 
 void MainWindow::buildActions()
@@ -132,11 +134,18 @@ void MainWindow::buildView()
     layout->setSpacing(10);
     layout->addLayout(top);
     layout->addWidget(m_table);
-    setCentralWidget(central);
+    // At a large scale a small screen has less room than even the least of this.
+    auto* const area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(central);
+    setCentralWidget(area);
 
     auto* const place
         = new QLabel(tr("参数文件：%1").arg(QDir::toNativeSeparators(m_core.store().fileName())));
     place->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    place->setToolTip(place->text());
+    place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(place, 1);
 }
 

@@ -33,10 +33,11 @@ void SettingsWindow::showEvent(QShowEvent* event)
     QScrollArea::showEvent(event);
     const QRect available = screen()->availableGeometry();
     const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-    // Before the window manager has framed the window, a title bar's usual height.
-    constexpr int usualTitle = 32;
-    const int title = qMax(usualTitle, frame.top() + frame.bottom());
-    const QSize room(available.width() - frame.left() - frame.right(), available.height() - title);
+    // Before the window manager has framed the window, the usual frame.
+    const QSize usualFrame(4, 32);
+    const QSize around
+        = usualFrame.expandedTo({frame.left() + frame.right(), frame.top() + frame.bottom()});
+    const QSize room = available.size() - around;
     if (m_formSize.width() <= room.width() && m_formSize.height() <= room.height())
         return;
     // A scroll bar for one direction takes room from the other.
