@@ -51,8 +51,8 @@ void SkinSwitcher::applyPalette()
         widget->setStyleSheet(sheet);
         if (widget->font() == font)
             continue;
-        // A new sheet drops what is inherited from the window. The families are set as they are:
-        // otherwise the first is put in front of them once more.
+        // A new sheet drops the font that was inherited from the window. A list of families that
+        // was only inherited gets the family put in front of it; one that is set does not.
         font.setFamilies(font.families());
         widget->setFont(font);
     }

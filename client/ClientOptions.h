@@ -15,7 +15,7 @@ public:
     bool gallery = false; ///< the kit's widgets instead of the client
     int scalePercent = 0; ///< 100..300; 0: the one of the settings
 
-    /// Whether something is shown or written of what is there, and no client is started.
+    /// Whether an output is all that is wanted: no client is started then.
     bool onlyReads() const { return printRecord || gallery || !screenshotDirectory.isEmpty(); }
 
     /// Reads the arguments of the running application. Ends the process for --help and

@@ -23,7 +23,7 @@ public:
     static bool send(const DataDirectory& directory, int milliseconds = 2000);
 
 Q_SIGNALS:
-    /// Before the answer is given.
+    /// A later start asks for the window. Emitted before that start gets its answer.
     void arrived();
 
 private:

@@ -43,8 +43,9 @@ public:
     /// of a file that does not parse nothing is used. Changes nothing outside @p record.
     LoadReport read(OwnedRecord& record);
 
-    /// The same, and keeps a file that is not right under a dated name of its own: a copy of one
-    /// with wrong values, unless there is one, and a file that does not parse itself.
+    /// The same, and keeps the file if anything is wrong with it, under a name with the date. Of a
+    /// file with wrong values a copy is kept, unless there is one already; a file that does not
+    /// parse is renamed.
     LoadReport load(OwnedRecord& record);
 
     /// Replaces the file. Returns an empty text, or why it failed; the old file is then as it

@@ -22,7 +22,7 @@ template <typename Map> void fill(Map& own, const Map& substitute)
     }
 }
 
-/// Reports the keys of one kind that the table neither has right nor was already blamed for.
+/// Reports the keys of one kind that the table lacks, but for those that @p problems names already.
 template <std::size_t count, typename Map>
 void reportAbsent(const SkinKeys::KeyInfo (&keys)[count], const Map& own, QLatin1String kind,
                   const QString& file, QVector<SkinProblem>& problems)

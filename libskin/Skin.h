@@ -21,8 +21,8 @@ struct Skin {
 /// The light skin that is compiled in; always complete.
 Skin builtInSkin();
 
-/// Reads the skin in @p folder and fills what is absent or wrong from @p substitute; every such
-/// thing becomes a row of @p problems. False if not even the table could be read.
+/// Reads the skin in @p folder and takes what is absent or wrong from @p substitute; each of these
+/// is a row of @p problems. False if not even the table could be read.
 bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
               QVector<SkinProblem>& problems);
 

@@ -20,8 +20,9 @@ bool HeldKeys::isPressedHere(const QKeyEvent& press)
     const quint32 key = physicalKey(press);
     if (m_pressedHere.contains(key))
         return true;
-    // X11 repeats a key by a release and a press of the same time, which the toolkit joins only if
-    // it has both when it looks. No user is that fast; a program is, but gives no scan code.
+    // X11 repeats a held key by a release and a press with the same time. The toolkit reports them
+    // as a repeat only if both have arrived when it looks. No user presses a key again within the
+    // same millisecond; a program that does so gives no scan code.
     const bool isHalfRepeat
         = press.nativeScanCode() != 0 && key == m_releasedKey && press.timestamp() == m_releaseTime;
     if (press.isAutoRepeat() || isHalfRepeat)

@@ -8,8 +8,8 @@ class QLineEdit;
  * Keeps the text of a line edit readable whose style sheet says its colour: it is painted in a
  * shade of that colour that can be read on the field, whatever the palette becomes.
  *
- * At each painting a line edit takes the colour of its sheet anew, past its palette. Only the
- * formats of an input method's text come after that.
+ * Each time a line edit paints, it takes the colour from its style sheet and not from its palette.
+ * The one thing that overrides that colour is a text format as input methods send it.
  */
 class MarkShade : public QObject {
     Q_OBJECT

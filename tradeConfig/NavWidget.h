@@ -41,5 +41,5 @@ private:
     QRectF entryRect(int index) const;
     void press(int index);
 
-    int m_fillings = 0; // after each, all entries are others
+    int m_fillings = 0; // how often all entries were replaced
 };

@@ -177,5 +177,5 @@ private:
     double packEndItems();
     void drawLook(QPainter& painter, const SwitchItem& item, const SwitchLook& look);
 
-    int m_clearings = 0; // after each, all items are others
+    int m_clearings = 0; // how often all items were replaced
 };

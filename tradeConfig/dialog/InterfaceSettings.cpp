@@ -45,7 +45,8 @@ template <typename Use> bool withSettings(const QString& path, const Use& use)
     }
 }
 
-/// Writes the file at @p path into @p copy with its binary values marked as plain texts.
+/// Copies the file at @p path into @p copy with every value in the toolkit's binary notation
+/// written as a plain text, which is read without looking into it.
 bool copyAsTexts(const QString& path, QFileDevice& copy)
 {
     QFile file(path);
@@ -95,8 +96,9 @@ void save(int languageIndex, int scale)
 {
     const QString path = filePath();
     const auto write = [&](QSettings& settings) {
-        // A value that is set but cannot be written would be read back as long as this process
-        // lives. Writing reads all the others, so they are read before.
+        // Nothing is set before it is sure that it can be written: the toolkit would show it to
+        // every later reader in this process. Writing parses all other values, one of which may
+        // take more memory than there is, so they are parsed first.
         if (!settings.isWritable() || !directoryHasRoomFor(path))
             return;
         settings.allKeys();

@@ -44,7 +44,7 @@ void QuantityValidator::install(QLineEdit& edit) const
     edit.setValidator(this);
     if (edit.text().isEmpty())
         return;
-    // The line edit holds the text that it has for valid until it is set anew.
+    // A line edit takes the text that it shows already for valid until it is set once more.
     const QSignalBlocker unchanged(edit);
     const QString text = edit.text();
     const int cursor = edit.cursorPosition();

@@ -17,12 +17,12 @@ class QuantityValidator : public QIntValidator {
 public:
     QuantityValidator(int bottom, int top, QObject* parent);
 
-    /// Makes this the validator of @p edit, also of the text that it shows already. A line edit
-    /// that shows an invalid text takes any other, too.
+    /// Makes this the validator of @p edit, also of the text that it shows already. While a line
+    /// edit shows an invalid text, it lets the user type anything: see guard().
     void install(QLineEdit& edit) const;
 
-    /// The same for a number that the user types: from a text out of range, which the program may
-    /// set, he can only take characters, or put a number in range in its place.
+    /// The same for a number that the user types. When the program has set a text out of range, the
+    /// user can only take characters away from it, or replace all of it by a number in range.
     void guard(QLineEdit& edit) const;
 
     /// Intermediate: empty, or below the bottom, which another digit may change. Invalid: all that

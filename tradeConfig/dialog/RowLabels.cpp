@@ -43,7 +43,7 @@ void RowLabels::fit(std::initializer_list<const QWidget*> pages)
             // Letters reach farther down than ideographs, and not as far up.
             const int margin = isChinese(label->text()) ? -below : 1 - below;
             label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
-            // With it every margin is at least zero.
+            // The attribute raises negative margins to zero.
             label->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);
             label->setContentsMargins(0, -below, 0, margin);
         }

@@ -8,7 +8,7 @@
 namespace StyleMark {
 
 /// Marks @p input green when accepted, red when not; leaves an equal mark alone, since setting
-/// a style sheet costs a full restyling even when nothing changes.
+/// a style sheet restyles the field even when nothing changes.
 inline void set(QLineEdit& input, bool accepted)
 {
     const QString mark = accepted ? QStringLiteral("color:green") : QStringLiteral("color:red");
