@@ -1,0 +1,1 @@
+// Nothing: a target for precompiled headers has a source.
