@@ -1,6 +1,7 @@
 #include "client/SettingsWindow.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWindow>
@@ -13,6 +14,7 @@ SettingsWindow::SettingsWindow(QWidget* dialog, QWidget* parent)
                    | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("设置"));
+    setFocusPolicy(Qt::NoFocus);
     setFrameShape(QFrame::NoFrame);
     dialog->setMinimumSize(m_formSize);
     setWidgetResizable(true);
@@ -26,6 +28,15 @@ void SettingsWindow::closeEvent(QCloseEvent* event)
     QScrollArea::closeEvent(event);
     if (event->isAccepted())
         Q_EMIT closed();
+}
+
+void SettingsWindow::keyPressEvent(QKeyEvent* event)
+{
+    // A key still held after it closed a list or a box must not take the window along.
+    if (event->matches(QKeySequence::Cancel) && !event->isAutoRepeat())
+        close();
+    else
+        QScrollArea::keyPressEvent(event);
 }
 
 void SettingsWindow::showEvent(QShowEvent* event)

@@ -5,7 +5,9 @@
 /**
  * A window around the module's dialog, which has a fixed layout: on a screen that is too small
  * for it at the chosen scale, the dialog scrolls. The window closes when the dialog does, and
- * deletes itself and the dialog.
+ * deletes itself and the dialog. Esc closes it where no control wants the key for itself.
+ *
+ * The window is no stop of Tab: the stops are the dialog's.
  */
 class SettingsWindow : public QScrollArea {
     Q_OBJECT
@@ -20,6 +22,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
