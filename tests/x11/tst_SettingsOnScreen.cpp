@@ -98,6 +98,7 @@ private Q_SLOTS:
     void initTestCase();
     void tabWalksTheControlsOnly_data();
     void tabWalksTheControlsOnly();
+    void ctrlTabTurnsTheGroups();
     void ctrlPageKeysTurnThePages();
     void cellsKeepTheKeys();
     void escCancels_data();
@@ -163,6 +164,21 @@ void tst_SettingsOnScreen::tabWalksTheControlsOnly()
     press(QVector<QString>(round.size(), QStringLiteral("shift+Tab")).toList());
     QTRY_COMPARE_WITH_TIMEOUT(trail.stops.size(), round.size(), patience);
     QCOMPARE(trail.stops, round);
+}
+
+void tst_SettingsOnScreen::ctrlTabTurnsTheGroups()
+{
+    const Settings settings;
+    QVERIFY(settings.window);
+    const QStackedWidget& groups = *settings.ui->stackedWidget;
+    for (const int expected : {1, 2, 0, 1}) {
+        press({QStringLiteral("ctrl+Tab")});
+        QTRY_COMPARE_WITH_TIMEOUT(groups.currentIndex(), expected, patience);
+    }
+    for (const int expected : {0, 2, 1, 0}) {
+        press({QStringLiteral("ctrl+shift+Tab")});
+        QTRY_COMPARE_WITH_TIMEOUT(groups.currentIndex(), expected, patience);
+    }
 }
 
 void tst_SettingsOnScreen::ctrlPageKeysTurnThePages()

@@ -30,6 +30,18 @@ void pressNeighbour(QWidget& widget, int step)
     }
 }
 
+// X11 counts Shift as a part of Backtab: a shortcut with both, as the toolkit names it, never comes
+// there, but one with Shift and Tab does.
+QVector<QKeySequence> withPlainTab(QVector<QKeySequence> keys)
+{
+    const int modifiers = int(Qt::KeyboardModifierMask);
+    for (const QKeySequence& key : QVector<QKeySequence>(keys)) {
+        if ((key[0] & ~modifiers) == Qt::Key_Backtab)
+            keys << QKeySequence((key[0] & modifiers) | Qt::Key_Tab);
+    }
+    return keys;
+}
+
 void keepFocusOutOfCells(QStackedWidget& stack)
 {
     QObject::connect(&stack, &QStackedWidget::currentChanged, &stack, [&stack] {
@@ -50,7 +62,7 @@ PageKeys::PageKeys(QWidget& dialog, QWidget& bar, QStackedWidget& top, QVector<G
     const auto bindings
         = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key).toVector(); };
     addKeys(bindings(QKeySequence::NextChild), &PageKeys::turnGroup, 1);
-    addKeys(bindings(QKeySequence::PreviousChild), &PageKeys::turnGroup, -1);
+    addKeys(withPlainTab(bindings(QKeySequence::PreviousChild)), &PageKeys::turnGroup, -1);
     addKeys({QKeySequence(Qt::CTRL + Qt::Key_PageDown)}, &PageKeys::turnPage, 1);
     addKeys({QKeySequence(Qt::CTRL + Qt::Key_PageUp)}, &PageKeys::turnPage, -1);
 
