@@ -2,9 +2,9 @@
 
 #include "client/DataDirectory.h"
 #include "client/PlainSettings.h"
+#include "client/ToolkitTexts.h"
 
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -12,10 +12,10 @@
 
 namespace {
 
-void install(QCoreApplication* application, const QString& name, const QString& directory)
+void install(QTranslator* translator, const QString& name)
 {
-    auto* const translator = new QTranslator(application);
-    if (!translator->load(name, directory) || !QCoreApplication::installTranslator(translator))
+    if (!translator->load(name, QStringLiteral(":/translations"))
+        || !QCoreApplication::installTranslator(translator))
         delete translator;
 }
 
@@ -36,9 +36,6 @@ StartSettings StartSettings::read(const DataDirectory& directory)
 void StartSettings::installTranslations(QCoreApplication* application) const
 {
     QLocale::setDefault(QLocale(language));
-    const QString ours = QStringLiteral(":/translations");
-    const QString toolkit = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    install(application, QStringLiteral("qtbase_") + language, toolkit);
-    install(application, QStringLiteral("qtbase_") + language, ours);
-    install(application, QStringLiteral("tradeConfig_") + language, ours);
+    install(new ToolkitTexts(application), QStringLiteral("qtbase_") + language);
+    install(new QTranslator(application), QStringLiteral("tradeConfig_") + language);
 }

@@ -14,6 +14,6 @@ struct StartSettings {
     static StartSettings read(const DataDirectory& directory);
 
     /// Installs the translations of the module's and the client's texts and of the toolkit's
-    /// own, as far as they exist. They belong to @p application.
+    /// own, which the program brings along. They belong to @p application.
     void installTranslations(QCoreApplication* application) const;
 };

@@ -4,7 +4,7 @@ export LC_ALL=C.UTF-8
 
 build_packages=(
     build-essential cmake ninja-build pkg-config
-    qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
+    qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev qttranslations5-l10n
     fonts-noto-cjk
 )
 test_packages=(

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void withoutADisplay();
     void speaksTheChosenLanguage_data();
     void speaksTheChosenLanguage();
+    void helpSpeaksTheChosenLanguage_data();
+    void helpSpeaksTheChosenLanguage();
     void settingThatAsksForTooMuch();
 
     void printsTheDefaults();
@@ -179,8 +181,7 @@ void tst_ClientCommandLine::moduleThatIsNoLibrary()
     writeFile(file, "no library");
     const Outcome outcome = run({QStringLiteral("--module"), file});
     QCOMPARE(outcome.status, 1);
-    QVERIFY2(outcome.errors.contains(file.toUtf8() + "：Cannot load library"),
-             outcome.errors.constData());
+    QVERIFY2(outcome.errors.contains(file.toUtf8() + "：无法加载库"), outcome.errors.constData());
 }
 
 void tst_ClientCommandLine::moduleWithoutTheSymbol()
@@ -231,6 +232,27 @@ void tst_ClientCommandLine::speaksTheChosenLanguage()
     const Outcome outcome = run(arguments);
     const QByteArray said = outcome.output + outcome.errors;
     QVERIFY2(said.contains(expected), said.constData());
+}
+
+void tst_ClientCommandLine::helpSpeaksTheChosenLanguage_data()
+{
+    QTest::addColumn<QByteArray>("usage");
+    QTest::addColumn<QByteArray>("options");
+    QTest::newRow("zh_CN") << QByteArray("用法：") << QByteArray("选项：");
+    QTest::newRow("zh_TW") << QByteArray("用法：") << QByteArray("選項：");
+    QTest::newRow("en_US") << QByteArray("Usage: ") << QByteArray("Options:");
+}
+
+void tst_ClientCommandLine::helpSpeaksTheChosenLanguage()
+{
+    QFETCH(const QByteArray, usage);
+    QFETCH(const QByteArray, options);
+    writeFile(data(QStringLiteral("config/system_settings.ini")),
+              QByteArray("[UI]\nlanguage=") + QTest::currentDataTag() + '\n');
+    const Outcome outcome = run({QStringLiteral("--help")});
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(outcome.output.startsWith(usage), outcome.output.constData());
+    QVERIFY2(outcome.output.contains('\n' + options + '\n'), outcome.output.constData());
 }
 
 // It counts as absent, for the client when it starts and for the module when it shows its dialog.

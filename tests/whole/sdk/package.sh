@@ -18,6 +18,7 @@ diff <(list "$work/root/usr") <(list "$work/runtime")
 
 export HOME=$work/home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 "$work/root/usr/bin/tradeclient" --version
+"$work/root/usr/bin/tradeclient" --help | grep -q '^用法：'
 "$work/root/usr/bin/tradeclient" --print-record | grep -q '"splitMaxQty"'
 "$work/root/usr/bin/tradeclient" --screenshots "$work/pages" --skin dark >/dev/null
 [ "$(find "$work/pages" -name '*.png' | wc -l)" -ge 8 ]
