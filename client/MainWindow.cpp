@@ -1,6 +1,7 @@
 #include "client/MainWindow.h"
 
 #include "client/DataDirectory.h"
+#include "client/LanguageMenu.h"
 #include "client/RecordFilter.h"
 #include "client/RecordModel.h"
 #include "client/SettingsModule.h"
@@ -73,7 +74,12 @@ void MainWindow::buildActions()
     file->addAction(settings);
     file->addSeparator();
     file->addAction(quit);
-    m_skinMenu = menuBar()->addMenu(tr("视图(&V)"))->addMenu(tr("皮肤"));
+    QMenu* const view = menuBar()->addMenu(tr("视图(&V)"));
+    m_skinMenu = view->addMenu(tr("皮肤"));
+    m_languageMenu = new LanguageMenu(m_directory, this);
+    m_languageMenu->setObjectName(QStringLiteral("menu_language"));
+    view->addMenu(m_languageMenu);
+    connect(m_languageMenu, &LanguageMenu::chosen, this, &MainWindow::takeLanguage);
     QMenu* const help = menuBar()->addMenu(tr("帮助(&H)"));
     help->addAction(about);
 
@@ -161,6 +167,10 @@ void MainWindow::openSettings()
         }
         m_settings = new SettingsWindow(dialog, this);
         connect(m_settings, &SettingsWindow::closed, this, &MainWindow::showUncommitted);
+        // The dialog has a choice of its own, which it would store with the rest.
+        m_languageMenu->setEnabled(false);
+        connect(m_settings, &SettingsWindow::closed, m_languageMenu,
+                [this] { m_languageMenu->setEnabled(true); });
     }
     m_settings->show();
     m_settings->raise();
@@ -197,6 +207,13 @@ void MainWindow::showUncommitted()
         return;
     const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
     m_summary->setText(tr("%1 未经确认，修改了 %n 项", nullptr, count).arg(time));
+}
+
+// The record knows the language too.
+void MainWindow::takeLanguage(int index)
+{
+    m_core.GetTradeParm()->languageIndex = index;
+    showUncommitted();
 }
 
 void MainWindow::showStoringFailure(const QString& reason)

@@ -4,6 +4,7 @@
 #include <QPointer>
 
 class DataDirectory;
+class LanguageMenu;
 class QLabel;
 class QMenu;
 class QTableView;
@@ -36,6 +37,7 @@ private:
     void buildView();
     void showCommit();
     void showUncommitted();
+    void takeLanguage(int index);
     void showStoringFailure(const QString& reason);
     void showAbout();
 
@@ -45,6 +47,7 @@ private:
     RecordModel* m_model;
     RecordFilter* m_filter;
     QMenu* m_skinMenu = nullptr;
+    LanguageMenu* m_languageMenu = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_summary = nullptr;
     QPointer<SettingsWindow> m_settings;

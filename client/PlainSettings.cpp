@@ -1,5 +1,8 @@
 #include "client/PlainSettings.h"
 
+#include "client/FileReplace.h"
+
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -46,10 +49,19 @@ QVariant PlainSettings::value(const QString& file, const QString& key)
     return QSettings(copy.fileName(), QSettings::IniFormat).value(key);
 }
 
-void PlainSettings::setValue(const QString& file, const QString& key, const QString& value)
+QString PlainSettings::setValue(const QString& file, const QString& key, const QString& value)
 {
-    const QByteArray content = contentOf(file);
-    if (content.isEmpty() || plainLines(content) != content)
+    const QByteArray plain = plainLines(contentOf(file));
+    QTemporaryFile copy;
+    if (!copy.open() || copy.write(plain) != plain.size() || !copy.flush())
+        return copy.errorString();
+    QSettings settings(copy.fileName(), QSettings::IniFormat);
+    settings.setValue(key, value);
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        return QCoreApplication::translate("PlainSettings", "无法写入 %1").arg(copy.fileName());
+    // What is no file would keep its writer waiting.
+    if (!QFileInfo(file).isFile())
         QFile::remove(file);
-    QSettings(file, QSettings::IniFormat).setValue(key, value);
+    return replaceFile(file, contentOf(copy.fileName()));
 }

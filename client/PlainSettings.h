@@ -14,7 +14,8 @@ namespace PlainSettings {
 /// Null when the file or the key is missing. Writes nothing.
 QVariant value(const QString& file, const QString& key);
 
-/// A file that holds more than plain values is begun anew.
-void setValue(const QString& file, const QString& key, const QString& value);
+/// Replaces the file as a whole; what else is plain in it is kept. Returns an empty text, or why
+/// the file stays as it was.
+QString setValue(const QString& file, const QString& key, const QString& value);
 
 } // namespace PlainSettings

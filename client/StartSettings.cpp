@@ -12,6 +12,8 @@
 
 namespace {
 
+QString languageKey() { return QStringLiteral("UI/language"); }
+
 void install(QTranslator* translator, const QString& name)
 {
     if (!translator->load(name, QStringLiteral(":/translations"))
@@ -27,10 +29,15 @@ StartSettings StartSettings::read(const DataDirectory& directory)
     StartSettings settings;
     settings.scalePercent
         = std::clamp(PlainSettings::value(file, QStringLiteral("UI/scale")).toInt(), 100, 300);
-    const QString language = PlainSettings::value(file, QStringLiteral("UI/language")).toString();
+    const QString language = PlainSettings::value(file, languageKey()).toString();
     const bool known = language == QLatin1String("zh_TW") || language == QLatin1String("en_US");
     settings.language = known ? language : QStringLiteral("zh_CN");
     return settings;
+}
+
+QString StartSettings::keepLanguage(const DataDirectory& directory, const QString& language)
+{
+    return PlainSettings::setValue(directory.settingsFile(), languageKey(), language);
 }
 
 void StartSettings::installTranslations(QCoreApplication* application) const

@@ -1217,6 +1217,18 @@ Change the values marked red until they turn green, then press OK again.</transl
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>语言 Language(&amp;L)</source>
+        <extracomment>Understood in every language, so that somebody who chose a wrong one finds back.</extracomment>
+        <translation>&amp;Language 语言</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>交易客户端</source>
@@ -1342,6 +1354,13 @@ Data directory: %3</translation>
         <source>无法创建目录 %1</source>
         <translation>Cannot create the directory %1</translation>
     </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>Cannot write %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlainSettings</name>
     <message>
         <source>无法写入 %1</source>
         <translation>Cannot write %1</translation>
@@ -1916,6 +1935,21 @@ Data directory: %3</translation>
     <message>
         <source>不是普通文件</source>
         <translation>is not a regular file</translation>
+    </message>
+</context>
+<context>
+    <name>RestartOffer</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>Trading Client</translation>
+    </message>
+    <message>
+        <source>部分修改需要重启后生效，确定现在重启吗？</source>
+        <translation>Some changes take effect after a restart. Restart now?</translation>
+    </message>
+    <message>
+        <source>无法启动重启程序 %1。</source>
+        <translation>Cannot start the restarter %1.</translation>
     </message>
 </context>
 <context>

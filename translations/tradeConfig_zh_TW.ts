@@ -1217,6 +1217,18 @@
     </message>
 </context>
 <context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>语言 Language(&amp;L)</source>
+        <extracomment>Understood in every language, so that somebody who chose a wrong one finds back.</extracomment>
+        <translation>語言 Language(&amp;L)</translation>
+    </message>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>交易客户端</source>
@@ -1340,6 +1352,13 @@
         <source>无法创建目录 %1</source>
         <translation>無法建立目錄 %1</translation>
     </message>
+    <message>
+        <source>无法写入 %1</source>
+        <translation>無法寫入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlainSettings</name>
     <message>
         <source>无法写入 %1</source>
         <translation>無法寫入 %1</translation>
@@ -1914,6 +1933,21 @@
     <message>
         <source>不是普通文件</source>
         <translation>不是一般檔案</translation>
+    </message>
+</context>
+<context>
+    <name>RestartOffer</name>
+    <message>
+        <source>交易客户端</source>
+        <translation>交易用戶端</translation>
+    </message>
+    <message>
+        <source>部分修改需要重启后生效，确定现在重启吗？</source>
+        <translation>部分修改需要重新啟動後才會生效，確定現在重新啟動嗎？</translation>
+    </message>
+    <message>
+        <source>无法启动重启程序 %1。</source>
+        <translation>無法啟動重新啟動程式 %1。</translation>
     </message>
 </context>
 <context>

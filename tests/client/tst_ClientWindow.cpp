@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void cancelChangesNothing();
     void changeWithoutAConfirm_data();
     void changeWithoutAConfirm();
+    void languageFromTheMenu();
     void takesTheMouse();
     void opensAgainAndAgain();
     void secondRequestFindsTheSameWindow();
@@ -268,6 +270,24 @@ void tst_ClientWindow::changeWithoutAConfirm()
     m_window->openSettings();
     control<QPushButton>("pushButton_confirm")->click();
     QCOMPARE(marked(), QStringList());
+}
+
+void tst_ClientWindow::languageFromTheMenu()
+{
+    QVERIFY(m_directory->makeConfigDirectory());
+    auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("menu_language"));
+    m_window->openSettings();
+    QVERIFY2(!menu->isEnabled(), "the dialog stores one of its own");
+    m_window->settingsWindow()->close();
+    QVERIFY(menu->isEnabled());
+
+    const ModalAnswer later = ModalAnswer::pressing(QMessageBox::No);
+    menu->actions().at(2)->trigger();
+    QVERIFY(later.came());
+    QCOMPARE(m_core->GetTradeParm()->languageIndex, 2);
+    QCOMPARE(cell("languageIndex", RecordModel::MeaningColumn), QStringLiteral("English"));
+    QCOMPARE(marked(), QStringList{QStringLiteral("languageIndex")});
+    QCOMPARE(StartSettings::read(*m_directory).language, QStringLiteral("en_US"));
 }
 
 void tst_ClientWindow::takesTheMouse()
