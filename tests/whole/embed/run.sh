@@ -7,13 +7,16 @@ trap 'rm -rf "$work"' EXIT
 
 cmake -S "$(dirname "$0")" -B "$work" -G Ninja -DTREE="$1" >"$work/log" 2>&1 ||
     { cat "$work/log"; exit 1; }
+together=$(find "$work/tree/tradeConfig" -name 'unity_metaObjects_*.cxx')
+for class in CTradeConfigWidget CaptionBar ImageButton MessageBox NavWidget \
+    QuantityValidator SwitchEx TableLineEdit TipLabel WrapLabel; do
+    [ "$(grep -c "/moc_$class.cpp\"$" "$together")" = 1 ] ||
+        { echo "The meta-object of $class is missing"; exit 1; }
+done
 for library in libtradeConfigCore.a libtradeConfig.so; do
     ninja -C "$work" -t query "tree/lib/$library" >"$work/inputs"
-    for class in CTradeConfigWidget CaptionBar ImageButton MessageBox NavWidget \
-        QuantityValidator SwitchEx TableLineEdit TipLabel WrapLabel; do
-        [ "$(grep -c "moc_$class.cpp.o$" "$work/inputs")" = 1 ] ||
-            { echo "$library lacks the meta-object of $class"; exit 1; }
-    done
+    [ "$(grep -c "/$(basename "$together").o$" "$work/inputs")" = 1 ] ||
+        { echo "$library lacks the meta-objects"; exit 1; }
     ! grep 'mocs_compilation.cpp.o$' "$work/inputs" || { echo "$library has meta-objects twice"; exit 1; }
 done
 
