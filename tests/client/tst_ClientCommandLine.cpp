@@ -24,7 +24,7 @@ class tst_ClientCommandLine : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_home = std::make_unique<QTemporaryDir>(); }
+    void init();
 
     void help();
     void version();
@@ -69,6 +69,8 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_home;
 };
+
+void tst_ClientCommandLine::init() { m_home = std::make_unique<QTemporaryDir>(); }
 
 QProcessEnvironment tst_ClientCommandLine::environment(const QString& platform) const
 {

@@ -8,7 +8,7 @@ class tst_ExpectedHome : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { qputenv("HOME", m_home.path().toUtf8()); }
+    void init();
 
     void isWhereTheModuleLooks();
     void followsTheEnvironment_data();
@@ -21,6 +21,8 @@ private Q_SLOTS:
 private:
     const QTemporaryDir m_home;
 };
+
+void tst_ExpectedHome::init() { qputenv("HOME", m_home.path().toUtf8()); }
 
 void tst_ExpectedHome::isWhereTheModuleLooks()
 {

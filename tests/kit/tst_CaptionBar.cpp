@@ -16,7 +16,7 @@ class tst_CaptionBar : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void partsByWindowFlags_data();
     void partsByWindowFlags();
     void isDialogNeedsEveryBit_data();
@@ -139,6 +139,8 @@ public:
 };
 
 } // namespace
+
+void tst_CaptionBar::init() { RecordingSkin::reset(); }
 
 void tst_CaptionBar::partsByWindowFlags_data()
 {

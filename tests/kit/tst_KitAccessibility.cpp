@@ -16,7 +16,7 @@ class tst_KitAccessibility : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void theBarIsAListOfPageTabs();
     void theStatesFollowTheMouse();
     void aPressDoesWhatAClickDoes();
@@ -77,6 +77,8 @@ public:
 };
 
 } // namespace
+
+void tst_KitAccessibility::init() { RecordingSkin::reset(); }
 
 void tst_KitAccessibility::theBarIsAListOfPageTabs()
 {

@@ -18,7 +18,7 @@ class tst_MessageBox : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void formAndWindow();
     void captionBar();
     void iconByKind_data();
@@ -161,6 +161,8 @@ QSize hintOf(const QString& text)
 }
 
 } // namespace
+
+void tst_MessageBox::init() { RecordingSkin::reset(); }
 
 void tst_MessageBox::formAndWindow()
 {

@@ -12,7 +12,7 @@ class tst_NavWidget : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void startsOnTheFirstEntry();
     void press_data();
     void press();
@@ -62,6 +62,8 @@ void move(CNavWidget& list, int y)
 }
 
 } // namespace
+
+void tst_NavWidget::init() { RecordingSkin::reset(); }
 
 void tst_NavWidget::startsOnTheFirstEntry()
 {

@@ -16,7 +16,7 @@ class tst_SwitchEx : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void names();
     void aNewItem();
     void aNewBar();
@@ -142,6 +142,8 @@ Rects rects(const QVector<SwitchItem*>& items)
 }
 
 } // namespace
+
+void tst_SwitchEx::init() { RecordingSkin::reset(); }
 
 void tst_SwitchEx::names()
 {

@@ -13,7 +13,7 @@ class tst_SwitchExPaint : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
     void oneItem_data();
     void oneItem();
     void background_data();
@@ -91,6 +91,8 @@ QStringList withoutBackground(QStringList calls) { return calls.mid(2); }
 } // namespace
 
 // One item "ab" (20 x 16 pixels) in a bar of 200 x 40 or 40 x 200, padding 2, 3, 4, 5.
+void tst_SwitchExPaint::init() { RecordingSkin::reset(); }
+
 void tst_SwitchExPaint::oneItem_data()
 {
     QTest::addColumn<CSwitchEx::SwitchMode>("mode");

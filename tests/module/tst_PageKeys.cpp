@@ -81,7 +81,7 @@ class tst_PageKeys : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { RecordingSkin::reset(); }
+    void init();
 
     void turnsGroups_data();
     void turnsGroups();
@@ -97,6 +97,8 @@ private Q_SLOTS:
     void putsTheFocusIntoNoCell();
     void keepsTheFocusOfOtherPages();
 };
+
+void tst_PageKeys::init() { RecordingSkin::reset(); }
 
 void tst_PageKeys::turnsGroups_data()
 {
