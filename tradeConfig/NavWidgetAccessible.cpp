@@ -1,20 +1,12 @@
 #include "tradeConfig/NavWidgetAccessible.h"
 
+#include "tradeConfig/AccessibleFactory.h"
 #include "tradeConfig/NavWidget.h"
 
-namespace {
-
-QAccessibleInterface* create(const QString& className, QObject* object)
+void NavWidgetAccessible::install()
 {
-    if (className != QLatin1String("CNavWidget"))
-        return nullptr;
-    auto* const list = qobject_cast<CNavWidget*>(object);
-    return list ? new NavWidgetAccessible(list) : nullptr;
+    AccessibleFactory::install<CNavWidget, NavWidgetAccessible>();
 }
-
-} // namespace
-
-void NavWidgetAccessible::install() { QAccessible::installFactory(&create); }
 
 NavWidgetAccessible::NavWidgetAccessible(CNavWidget* list)
     : PartsAccessible(list, QAccessible::List)

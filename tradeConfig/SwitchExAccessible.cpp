@@ -1,20 +1,9 @@
 #include "tradeConfig/SwitchExAccessible.h"
 
+#include "tradeConfig/AccessibleFactory.h"
 #include "tradeConfig/SwitchEx.h"
 
-namespace {
-
-QAccessibleInterface* create(const QString& className, QObject* object)
-{
-    if (className != QLatin1String("CSwitchEx"))
-        return nullptr;
-    auto* const bar = qobject_cast<CSwitchEx*>(object);
-    return bar ? new SwitchExAccessible(bar) : nullptr;
-}
-
-} // namespace
-
-void SwitchExAccessible::install() { QAccessible::installFactory(&create); }
+void SwitchExAccessible::install() { AccessibleFactory::install<CSwitchEx, SwitchExAccessible>(); }
 
 SwitchExAccessible::SwitchExAccessible(CSwitchEx* bar)
     : PartsAccessible(bar, QAccessible::PageTabList)

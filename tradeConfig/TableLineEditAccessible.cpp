@@ -1,20 +1,12 @@
 #include "tradeConfig/TableLineEditAccessible.h"
 
+#include "tradeConfig/AccessibleFactory.h"
 #include "tradeConfig/TableLineEdit.h"
 
-namespace {
-
-QAccessibleInterface* create(const QString& className, QObject* object)
+void TableLineEditAccessible::install()
 {
-    if (className != QLatin1String("CTableLineEdit"))
-        return nullptr;
-    auto* const cell = qobject_cast<CTableLineEdit*>(object);
-    return cell ? new TableLineEditAccessible(cell) : nullptr;
+    AccessibleFactory::install<CTableLineEdit, TableLineEditAccessible>();
 }
-
-} // namespace
-
-void TableLineEditAccessible::install() { QAccessible::installFactory(&create); }
 
 TableLineEditAccessible::TableLineEditAccessible(QLineEdit* cell)
     : QAccessibleWidget(cell, QAccessible::EditableText)
