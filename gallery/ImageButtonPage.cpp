@@ -7,75 +7,31 @@ namespace {
 
 struct ButtonRow {
     const char* name;
-    QSize size;
-    bool text;
-    void (*set)(CImageButton&);
+    int width;
+    int height;
+    int frames; // of the one image; 0: an image for each state
+    const char* images[4]; // normal, mouse over, pressed, disabled
+    bool text = false;
+    int indent = 0;
 };
 
-const ButtonRow buttonRows[] = {
-    {QT_TRANSLATE_NOOP("Gallery", "1 · 单帧"),
-     {24, 24},
-     false,
-     [](CImageButton& button) { button.setSingleImage(QStringLiteral("logo"), 1, false, true); }},
-    {QT_TRANSLATE_NOOP("Gallery", "2 · 两帧"),
-     {28, 28},
-     false,
-     [](CImageButton& button) {
-         button.setSingleImage(QStringLiteral("gallery_toggle"), 2, true, false);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：最小化"),
-     {14, 14},
-     false,
-     [](CImageButton& button) {
-         button.setSingleImage(QStringLiteral("win_minimize"), 3, true, false);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：最大化"),
-     {14, 14},
-     false,
-     [](CImageButton& button) {
-         button.setSingleImage(QStringLiteral("win_normal"), 3, true, false);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：还原"),
-     {14, 14},
-     false,
-     [](CImageButton& button) {
-         button.setSingleImage(QStringLiteral("win_renew"), 3, true, false);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "4 · 四帧"),
-     {28, 28},
-     false,
-     [](CImageButton& button) {
-         button.setSingleImage(QStringLiteral("gallery_action"), 4, true, false);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "5 · 每种状态一张图片"),
-     {88, 28},
-     true,
-     [](CImageButton& button) {
-         button.setImage(
-             QStringLiteral("gallery_plate_normal"), QStringLiteral("gallery_plate_hover"),
-             QStringLiteral("gallery_plate_pressed"), QStringLiteral("gallery_plate_disabled"));
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "5 · 只有普通和悬停图片"),
-     {88, 28},
-     true,
-     [](CImageButton& button) {
-         button.setImage(QStringLiteral("gallery_plate_normal"),
-                         QStringLiteral("gallery_plate_hover"), QString(), QString());
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "5 · 文字缩进 24"),
-     {88, 28},
-     true,
-     [](CImageButton& button) {
-         button.setImage(QStringLiteral("gallery_plate_normal"), QString(), QString(), QString());
-         button.setTextIndent(24);
-     }},
-    {QT_TRANSLATE_NOOP("Gallery", "5 · 关闭按钮"),
-     {14, 14},
-     false,
-     [](CImageButton& button) {
-         button.setImage(QStringLiteral("PanelClose"), QString(), QString(), QString());
-     }},
+// clang-format off
+constexpr ButtonRow buttonRows[] = {
+    {QT_TRANSLATE_NOOP("Gallery", "1 · 单帧"), 24, 24, 1, {"logo"}},
+    {QT_TRANSLATE_NOOP("Gallery", "2 · 两帧"), 28, 28, 2, {"gallery_toggle"}},
+    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：最小化"), 14, 14, 3, {"win_minimize"}},
+    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：最大化"), 14, 14, 3, {"win_normal"}},
+    {QT_TRANSLATE_NOOP("Gallery", "3 · 三帧：还原"), 14, 14, 3, {"win_renew"}},
+    {QT_TRANSLATE_NOOP("Gallery", "4 · 四帧"), 28, 28, 4, {"gallery_action"}},
+    {QT_TRANSLATE_NOOP("Gallery", "5 · 每种状态一张图片"), 88, 28, 0,
+     {"gallery_plate_normal", "gallery_plate_hover", "gallery_plate_pressed", "gallery_plate_disabled"}, true},
+    {QT_TRANSLATE_NOOP("Gallery", "5 · 只有普通和悬停图片"), 88, 28, 0,
+     {"gallery_plate_normal", "gallery_plate_hover"}, true},
+    {QT_TRANSLATE_NOOP("Gallery", "5 · 文字缩进 24"), 88, 28, 0,
+     {"gallery_plate_normal"}, true, 24},
+    {QT_TRANSLATE_NOOP("Gallery", "5 · 关闭按钮"), 14, 14, 0, {"PanelClose"}},
 };
+// clang-format on
 
 struct ButtonState {
     const char* name;
@@ -93,9 +49,14 @@ constexpr ButtonState buttonStates[] = {
 
 void prepare(CImageButton* button, const ButtonRow& row)
 {
-    row.set(*button);
-    button->setFixedSize(row.size);
+    const auto image = [&row](int state) { return QString::fromLatin1(row.images[state]); };
+    if (row.frames == 0)
+        button->setImage(image(0), image(1), image(2), image(3));
+    else // the single frame is drawn in its own proportions
+        button->setSingleImage(image(0), row.frames, row.frames != 1, row.frames == 1);
+    button->setFixedSize(row.width, row.height);
     if (row.text) {
+        button->setTextIndent(row.indent);
         button->setText(GalleryText::tr("下单"));
         button->setShowText(true);
     }
