@@ -11,13 +11,14 @@ CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
     : QLineEdit(parent)
     , row(tableRow)
 {
+    // First of all: what follows is told, and who is told asks for the interface.
+    TableLineEditAccessible::install();
     QFont cellFont = font();
     cellFont.setPointSize(11);
     setFont(cellFont);
     // Shuts out input methods, paste, drops and the middle button; setText still works.
     setReadOnly(true);
     connect(this, &QLineEdit::editingFinished, this, &CTableLineEdit::EditFinished);
-    TableLineEditAccessible::install();
 }
 
 void CTableLineEdit::EditFinished() { }

@@ -25,13 +25,36 @@ QAccessible::State TableLineEditAccessible::state() const
 
 QString TableLineEditAccessible::text(QAccessible::Text which) const
 {
-    return which == QAccessible::Value ? cell()->text() : QAccessibleWidget::text(which);
+    if (which == QAccessible::Value)
+        return cell()->text();
+    const QString own = QAccessibleWidget::text(which);
+    if (!own.isEmpty() || (which != QAccessible::Name && which != QAccessible::Description))
+        return own;
+    const CellTableAccessible::Place here = place();
+    if (!here.table)
+        return own;
+    const int column = which == QAccessible::Name ? 0 : here.table->columnCount() - 1;
+    return here.table->itemText(here.row, column);
+}
+
+QAccessibleInterface* TableLineEditAccessible::parent() const
+{
+    QAccessibleInterface* const table = place().table;
+    return table ? table : QAccessibleWidget::parent();
+}
+
+CellTableAccessible::Place TableLineEditAccessible::place() const
+{
+    return CellTableAccessible::placeOf(*widget());
 }
 
 void* TableLineEditAccessible::interface_cast(QAccessible::InterfaceType type)
 {
-    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
-                                              : QAccessibleWidget::interface_cast(type);
+    if (type == QAccessible::TextInterface)
+        return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::TableCellInterface && place().table)
+        return static_cast<QAccessibleTableCellInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
 }
 
 void TableLineEditAccessible::selection(int index, int* start, int* end) const

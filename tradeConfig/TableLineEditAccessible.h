@@ -1,21 +1,31 @@
 #pragma once
 
-#include <QAccessibleWidget>
+#include "tradeConfig/CellTableAccessible.h"
 
 class QLineEdit;
 
-/// A hotkey cell as a text that can be read and not written: what the toolkit offers for a line
-/// edit would put any text into it.
-class TableLineEditAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
+/**
+ * A hotkey cell as a text that can be read and not written: what the toolkit offers for a line
+ * edit would put any text into it.
+ *
+ * In a table that knows of its cells' widgets the first column of the cell's row, the function,
+ * is its name, and the last one, the status, its description, where it has none of its own.
+ */
+class TableLineEditAccessible : public QAccessibleWidget,
+                                public QAccessibleTextInterface,
+                                public CellPlaceAccessible {
 public:
     /// A second time does nothing. Interfaces only come to be when asked for.
     static void install();
 
     explicit TableLineEditAccessible(QLineEdit* cell);
 
+    QAccessibleInterface* parent() const override;
     QAccessible::State state() const override;
     QString text(QAccessible::Text which) const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
+
+    CellTableAccessible::Place place() const override;
 
     void selection(int index, int* start, int* end) const override;
     int selectionCount() const override;

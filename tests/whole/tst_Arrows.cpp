@@ -79,8 +79,8 @@ const House& house()
              "tradeConfig/PageStack "
              "tradeConfig/TableLineEdit tradeConfig/TipLabel tradeConfig/WrapLabel"},
             {"tradeConfig/HeldKeys"},
-            {"tradeConfig/AccessibleFactory tradeConfig/PartEvents tradeConfig/PartsAccessible "
-             "tradeConfig/ReadableColour "
+            {"tradeConfig/AccessibleFactory tradeConfig/CellTableAccessible tradeConfig/PartEvents "
+             "tradeConfig/PartsAccessible tradeConfig/ReadableColour "
              "tradeConfig/SheetFont tradeConfig/SwitchAxis"},
 
             {"tradeConfig/skin/*", true},

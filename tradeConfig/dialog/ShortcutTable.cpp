@@ -1,5 +1,6 @@
 #include "tradeConfig/dialog/ShortcutTable.h"
 
+#include "tradeConfig/CellTableAccessible.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/dialog/FormText.h"
 #include "tradeConfig/dialog/StatusDelegate.h"
@@ -86,6 +87,7 @@ public:
 // its cell: the other way round every later change would be styled once more.
 void setUp(QTableWidget& table, int rows)
 {
+    CellTableAccessible::serve(table);
     table.setFrameShape(QFrame::NoFrame);
     QHeaderView& header = *table.horizontalHeader();
     header.setSectionResizeMode(QHeaderView::Stretch);
