@@ -5,6 +5,7 @@
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
+#include "tradeConfig/dialog/AccessibleNames.h"
 #include "tradeConfig/dialog/ButtonKeys.h"
 #include "tradeConfig/dialog/ChoiceLists.h"
 #include "tradeConfig/dialog/InterfaceSettings.h"
@@ -49,6 +50,9 @@ CTradeConfigWidget::CTradeConfigWidget(QWidget* parent)
                    ui.line_9, ui.line_10, ui.line_11, ui.line_12, ui.line_13, ui.line_14,
                    ui.line_15, ui.line_16, ui.line_28, ui.line_29, ui.line_30},
                   this);
+    AccessibleNames::giveFrom({ui.label_7, ui.label_scale, ui.label_33, ui.label_30,
+                               ui.label_trade_low, ui.label_trade_desc, ui.label_36, ui.label_39,
+                               ui.label_trade_kc_low, ui.label_trade_kc_desc});
 }
 
 // Delegates, so that the destructor frees the bar's items when the host's core throws below.

@@ -637,6 +637,22 @@ Change the values marked red until they turn green, then press OK again.</transl
         <extracomment>%1 is the trading function that already has the key</extracomment>
         <translation>Used by %1</translation>
     </message>
+    <message>
+        <source>交易客户端设置</source>
+        <translation>Trading client settings</translation>
+    </message>
+    <message>
+        <source>科创板设置</source>
+        <translation>STAR-board settings</translation>
+    </message>
+    <message>
+        <source>修改科创板买入保护价默认值</source>
+        <translation>Change the STAR buy protection</translation>
+    </message>
+    <message>
+        <source>修改科创板卖出保护价默认值</source>
+        <translation>Change the STAR sell protection</translation>
+    </message>
 </context>
 <context>
     <name>Client</name>

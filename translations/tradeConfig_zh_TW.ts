@@ -637,6 +637,22 @@
         <extracomment>%1 is the trading function that already has the key</extracomment>
         <translation>與%1重複</translation>
     </message>
+    <message>
+        <source>交易客户端设置</source>
+        <translation>交易用戶端設定</translation>
+    </message>
+    <message>
+        <source>科创板设置</source>
+        <translation>科創板設定</translation>
+    </message>
+    <message>
+        <source>修改科创板买入保护价默认值</source>
+        <translation>修改科創板買進保護價預設值</translation>
+    </message>
+    <message>
+        <source>修改科创板卖出保护价默认值</source>
+        <translation>修改科創板賣出保護價預設值</translation>
+    </message>
 </context>
 <context>
     <name>Client</name>

@@ -62,7 +62,8 @@ const House& house()
              "tradeConfig/dialog/SplitGroup tradeConfig/dialog/StatusDelegate "
              "tradeConfig/dialog/StyleMark "
              "tradeConfig/dialog/TabWalk tradeConfig/dialog/WheelGuard"},
-            {"tradeConfig/dialog/CodeList tradeConfig/dialog/FormText "
+            {"tradeConfig/dialog/AccessibleNames tradeConfig/dialog/CodeList "
+             "tradeConfig/dialog/FormText "
              "tradeConfig/dialog/QuantityValidator "
              "tradeConfig/dialog/SplitRules"},
             {"tradeConfig/ui_CTradeConfigWidget"},

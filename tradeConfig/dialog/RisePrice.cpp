@@ -1,6 +1,7 @@
 #include "tradeConfig/dialog/RisePrice.h"
 
 #include "tradeConfig/ITrade.h"
+#include "tradeConfig/dialog/AccessibleNames.h"
 #include "tradeConfig/dialog/QuantityValidator.h"
 
 #include "ui_CTradeConfigWidget.h"
@@ -11,11 +12,13 @@ constexpr int largestPercent = 100;
 
 } // namespace
 
-const RisePrice RisePrice::buy = {&Form::comboBox_trade_kc_buyRise, &Form::pushButton_kc_buyRise,
-                                  &TradeParm::starBuyRiseIndex, &TradeParm::starBuyRiseChoices};
+const RisePrice RisePrice::buy
+    = {&Form::comboBox_trade_kc_buyRise, &Form::label_40, &Form::pushButton_kc_buyRise,
+       &TradeParm::starBuyRiseIndex, &TradeParm::starBuyRiseChoices};
 
-const RisePrice RisePrice::sell = {&Form::comboBox_trade_kc_sellRise, &Form::pushButton_kc_sellRise,
-                                   &TradeParm::starSellRiseIndex, &TradeParm::starSellRiseChoices};
+const RisePrice RisePrice::sell
+    = {&Form::comboBox_trade_kc_sellRise, &Form::label_41, &Form::pushButton_kc_sellRise,
+       &TradeParm::starSellRiseIndex, &TradeParm::starSellRiseChoices};
 
 void RisePrice::load(const TradeParm& parm, const Form& ui) const
 {
@@ -38,6 +41,7 @@ QString RisePrice::beginEdit(const Form& ui, QObject* owner) const
 {
     QComboBox& edited = *(ui.*combo);
     edited.setEditable(true);
+    edited.lineEdit()->setAccessibleName(AccessibleNames::of(*(ui.*label)));
     // A percentage that nobody typed must not be stored.
     edited.setCompleter(nullptr);
     // Nor must Return move to another entry that already holds the percentage typed.

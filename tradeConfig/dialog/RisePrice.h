@@ -3,6 +3,7 @@
 #include <cstdint>
 
 class QComboBox;
+class QLabel;
 class QObject;
 class QPushButton;
 class QString;
@@ -19,6 +20,7 @@ struct RisePrice {
     static constexpr int choiceCount = 3;
 
     QComboBox* Form::*combo;
+    QLabel* Form::*label;
     QPushButton* Form::*editButton;
     std::int32_t TradeParm::*index;
     std::int32_t (TradeParm::*choices)[choiceCount];
