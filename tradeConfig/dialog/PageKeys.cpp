@@ -63,8 +63,8 @@ PageKeys::PageKeys(QWidget& dialog, QWidget& bar, QStackedWidget& top, QVector<G
         = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key).toVector(); };
     addKeys(bindings(QKeySequence::NextChild), &PageKeys::turnGroup, 1);
     addKeys(withPlainTab(bindings(QKeySequence::PreviousChild)), &PageKeys::turnGroup, -1);
-    addKeys({QKeySequence(Qt::CTRL + Qt::Key_PageDown)}, &PageKeys::turnPage, 1);
-    addKeys({QKeySequence(Qt::CTRL + Qt::Key_PageUp)}, &PageKeys::turnPage, -1);
+    addKeys({QKeySequence(int(Qt::CTRL) + Qt::Key_PageDown)}, &PageKeys::turnPage, 1);
+    addKeys({QKeySequence(int(Qt::CTRL) + Qt::Key_PageUp)}, &PageKeys::turnPage, -1);
 
     keepFocusOutOfCells(top);
     for (const Group& group : qAsConst(m_groups))
