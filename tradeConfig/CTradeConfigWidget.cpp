@@ -1,6 +1,7 @@
 #include "tradeConfig/CTradeConfigWidget.h"
 
 #include "tradeConfig/ITrade.h"
+#include "tradeConfig/MarkShade.h"
 #include "tradeConfig/MessageBox.h"
 #include "tradeConfig/SwitchEx.h"
 #include "tradeConfig/TableLineEdit.h"
@@ -168,8 +169,10 @@ void CTradeConfigWidget::initValidators()
             edit->setValidator(shared); // shows a key
         else if (edit->parent() == ui.spinBox_scale)
             shared->install(*edit); // shows a number with its unit
-        else
+        else {
             shared->guard(*edit);
+            MarkShade::prepare(*edit); // its marks come in the event filter
+        }
     }
 }
 

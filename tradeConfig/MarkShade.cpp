@@ -15,11 +15,17 @@ MarkShade::MarkShade(QLineEdit& input)
     input.installEventFilter(this);
 }
 
+MarkShade* MarkShade::of(QLineEdit& input)
+{
+    auto* const shade = input.findChild<MarkShade*>(QString(), Qt::FindDirectChildrenOnly);
+    return shade ? shade : new MarkShade(input);
+}
+
+void MarkShade::prepare(QLineEdit& input) { of(input); }
+
 void MarkShade::replaceSheet(QLineEdit& input, const QString& sheet)
 {
-    auto* shade = input.findChild<MarkShade*>(QString(), Qt::FindDirectChildrenOnly);
-    if (!shade)
-        shade = new MarkShade(input);
+    MarkShade* const shade = of(input);
     shade->m_replacing = true;
     SheetFont::keep(input, [&] { input.setStyleSheet(sheet); });
     shade->m_replacing = false;

@@ -17,11 +17,16 @@ public:
     /// Gives @p input another style sheet. The font stays.
     static void replaceSheet(QLineEdit& input, const QString& sheet);
 
+    /// To be called before, where the sheet is given while @p input's event filters run: one that
+    /// joins them then has the others run twice.
+    static void prepare(QLineEdit& input);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     explicit MarkShade(QLineEdit& input);
+    static MarkShade* of(QLineEdit& input);
     void apply();
 
     QLineEdit& m_input; ///< the parent

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void anotherSheetTakesOver();
     void editNoticesNothing();
     void oneForAnEdit();
+    void othersFilterOnce();
 
 private:
     std::unique_ptr<QWidget> m_window;
@@ -121,6 +122,30 @@ void tst_MarkShade::oneForAnEdit()
 {
     MarkShade::replaceSheet(*m_edit, redSheet);
     MarkShade::replaceSheet(*m_edit, QStringLiteral("color:green"));
+    QCOMPARE(m_edit->findChildren<MarkShade*>().size(), 1);
+}
+
+void tst_MarkShade::othersFilterOnce()
+{
+    class Marker : public QObject {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::FocusOut) {
+                ++times;
+                MarkShade::replaceSheet(*qobject_cast<QLineEdit*>(watched), redSheet);
+            }
+            return false;
+        }
+        int times = 0;
+    };
+    Marker marker;
+    m_edit->installEventFilter(&marker);
+    MarkShade::prepare(*m_edit);
+    QFocusEvent leave(QEvent::FocusOut);
+    QCoreApplication::sendEvent(m_edit, &leave);
+    QCOMPARE(marker.times, 1);
+    QCOMPARE(m_edit->styleSheet(), redSheet);
     QCOMPARE(m_edit->findChildren<MarkShade*>().size(), 1);
 }
 
