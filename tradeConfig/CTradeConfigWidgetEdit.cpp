@@ -1,4 +1,5 @@
 #include "tradeConfig/CTradeConfigWidget.h"
+#include "tradeConfig/PartEvents.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/TipLabel.h"
 #include "tradeConfig/dialog/RisePrice.h"
@@ -31,6 +32,13 @@ constexpr Tip tips[] = {
      QT_TRANSLATE_NOOP("CTradeConfigWidget", "上限不能小于下限或递减数量"), 200},
     {SplitRules::Verdict::AboveUpper, QT_TRANSLATE_NOOP("CTradeConfigWidget", "不能大于上限"), 160},
 };
+
+// Why the field is red, for those who come back to it later and do not see it.
+void explain(QLineEdit& field, const QString& reason)
+{
+    if (field.accessibleDescription() != reason)
+        field.setAccessibleDescription(reason);
+}
 
 const SplitGroup* const splitGroups[] = {&SplitGroup::stock, &SplitGroup::star};
 
@@ -86,12 +94,14 @@ void CTradeConfigWidget::checkSplitField(const SplitGroup& group, SplitRules::Fi
     const bool accepted = verdict == SplitRules::Verdict::Accepted;
     StyleMark::set(edit, accepted);
     if (accepted) {
+        explain(edit, QString());
         CheckSplitIsOk(edit.objectName());
     } else {
         const auto* const tip
             = std::find_if(std::begin(tips), std::end(tips), [verdict](const Tip& candidate) {
                   return candidate.verdict == verdict;
               });
+        explain(edit, tr(tip->text));
         ShowInputErrorMsg(&edit, tr(tip->text), tip->width);
     }
     if (verdict == SplitRules::Verdict::UpperTooSmall) {
@@ -116,6 +126,7 @@ void CTradeConfigWidget::CheckSplitIsOk(QString name)
                     || !SplitRules::clearsCompanion(passed, companion, quantities))
                     continue;
                 StyleMark::set(edit, true);
+                explain(edit, QString());
                 entry.value() = true;
             }
             return;
@@ -134,6 +145,7 @@ void CTradeConfigWidget::ShowInputErrorMsg(QObject* watched, QString text, int w
     tipLabel->setGeometry(field.x() + field.width() + tipOffsetX, field.y() + tipOffsetY, width,
                           field.height());
     tipLabel->show();
+    PartEvents::tell(*tipLabel, QAccessible::Alert, PartEvents::noPart);
     tipLabel->SetAutoHide();
 }
 

@@ -1,6 +1,7 @@
 #include "tradeConfig/TipLabel.h"
 
 #include "tradeConfig/ReadableColour.h"
+#include "tradeConfig/TipLabelAccessible.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
@@ -43,6 +44,8 @@ protected:
 CTipLabel::CTipLabel(const QString& text, bool isError, QWidget* parent)
     : QLabel(parent)
 {
+    // First of all: who is told of the text asks for the interface.
+    TipLabelAccessible::install();
     resize(160, 20);
     setText(text);
     setStyleSheet(isError ? QStringLiteral("color:red;") : QStringLiteral("color:green;"));

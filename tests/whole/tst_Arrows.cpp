@@ -72,7 +72,7 @@ const House& house()
             {"tradeConfig/ui_MessageBox"},
             {"tradeConfig/CaptionBar"},
             {"tradeConfig/NavWidgetAccessible tradeConfig/SwitchExAccessible "
-             "tradeConfig/TableLineEditAccessible"},
+             "tradeConfig/TableLineEditAccessible tradeConfig/TipLabelAccessible"},
             {"tradeConfig/SwitchEx tradeConfig/SwitchExEvents tradeConfig/SwitchExLayout "
              "tradeConfig/SwitchExPaint",
              true},

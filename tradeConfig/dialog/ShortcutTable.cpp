@@ -1,6 +1,7 @@
 #include "tradeConfig/dialog/ShortcutTable.h"
 
 #include "tradeConfig/CellTableAccessible.h"
+#include "tradeConfig/PartEvents.h"
 #include "tradeConfig/TableLineEdit.h"
 #include "tradeConfig/dialog/FormText.h"
 #include "tradeConfig/dialog/StatusDelegate.h"
@@ -116,6 +117,14 @@ void setReadOnlyItem(QTableWidget& table, int row, int column, const char* text)
 
 QString textOf(const QTableWidgetItem* item) { return item ? item->text() : QString(); }
 
+// The status describes the editor. Platforms differ in which of the two they pass on.
+void tellStatus(QLineEdit& editor, bool accepted)
+{
+    PartEvents::tell(editor, QAccessible::DescriptionChanged, PartEvents::noPart);
+    if (!accepted)
+        PartEvents::tell(editor, QAccessible::Alert, PartEvents::noPart);
+}
+
 CTableLineEdit* addRow(QTableWidget& table, int row, const char* function)
 {
     setReadOnlyItem(table, row, FunctionColumn, function);
@@ -211,7 +220,10 @@ void ShortcutTable::showVerdict(const Ui_CTradeConfigWidget& ui, QLineEdit* capt
     if (QTableWidgetItem* const item = widget.item(row, StatusColumn)) {
         StatusDelegate::paintColumn(widget, StatusColumn);
         item->setForeground(QBrush(accepted ? Qt::green : Qt::red));
+        const bool changed = item->text() != status;
         item->setText(status);
+        if (captor && changed)
+            tellStatus(*captor, accepted);
     }
 }
 
