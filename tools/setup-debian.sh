@@ -9,7 +9,7 @@ build_packages=(
 )
 test_packages=(
     clang libgnustep-base-dev gobjc++ libbenchmark-dev
-    xvfb xauth openbox xdotool x11-utils binutils file python3
+    xvfb xauth openbox xdotool x11-utils at-spi2-core dbus binutils file python3
 )
 # What clang links for sanitizers, coverage and fuzzing, and what reads and names its results;
 # clang only recommends them.
