@@ -1,6 +1,10 @@
 #include "appearance/SkinStyle.h"
 
+#include "tradeConfig/ReadableColour.h"
+
+#include <QAbstractButton>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
 #include <QTextLayout>
 #include <QtMath>
@@ -23,6 +27,20 @@ QColor blend(const QPalette& palette, double share)
         = [share](int of, int with) { return qRound(of * share + with * (1 - share)); };
     return QColor(mixed(text.red(), window.red()), mixed(text.green(), window.green()),
                   mixed(text.blue(), window.blue()));
+}
+
+/// Around what has the focus.
+void drawFocusRing(QPainter& painter, const QRect& area, const QPalette& palette)
+{
+    constexpr double width = 2.0;
+    constexpr double radius = 3.0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ReadableColour::focusRing(palette), width));
+    painter.setBrush(Qt::NoBrush);
+    const double inset = width / 2;
+    painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.restore();
 }
 
 double thumbShareOf(const QStyleOptionSlider& bar)
@@ -107,6 +125,8 @@ QRect SkinStyle::subElementRect(SubElement element, const QStyleOption* option,
         const QFontMetrics& metrics = option->fontMetrics;
         rect.setTop(2 * lineTop(rect, metrics) + metrics.height() - rect.bottom() - 2);
     }
+    if (element == SE_CheckBoxFocusRect)
+        rect = {rect.x(), option->rect.y(), rect.width() + 2, option->rect.height()};
     const auto* const item = element == SE_ItemViewItemText
         ? qstyleoption_cast<const QStyleOptionViewItem*>(option)
         : nullptr;
@@ -118,18 +138,26 @@ QRect SkinStyle::subElementRect(SubElement element, const QStyleOption* option,
 void SkinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_IndicatorCheckBox)
-        return;
     const State byKeyboard = State_HasFocus | State_KeyboardFocusChange;
-    if ((option->state & byKeyboard) == byKeyboard)
-        return; // Fusion shows the focus on the outline.
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(blend(option->palette, boxShare));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter->restore();
+    const bool isReachedByKeyboard = (option->state & byKeyboard) == byKeyboard;
+    if (element == PE_FrameFocusRect && qobject_cast<const QAbstractButton*>(widget)) {
+        if (isReachedByKeyboard && !qobject_cast<const QPushButton*>(widget))
+            drawFocusRing(*painter, option->rect, option->palette);
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand) {
+        if (option->state & State_HasFocus)
+            drawFocusRing(*painter, option->rect, option->palette);
+    } else if (element == PE_IndicatorCheckBox) {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(isReachedByKeyboard ? ReadableColour::focusRing(option->palette)
+                                            : blend(option->palette, boxShare));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        painter->restore();
+    }
 }
 
 void SkinStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -153,10 +181,14 @@ void SkinStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 {
     const auto* const bar
         = control == CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(option) : nullptr;
-    if (bar)
+    if (bar) {
         drawScrollBar(*bar, *painter, widget);
-    else
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool holdsAValue = control == CC_ComboBox || control == CC_SpinBox;
+    if (holdsAValue && (option->state & State_HasFocus))
+        drawFocusRing(*painter, option->rect, option->palette);
 }
 
 void SkinStyle::drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,

@@ -11,6 +11,7 @@ class QStyleOptionSlider;
  * Fusion paints a scroll bar's thumb lighter than its groove, so that on a light skin the groove
  * looks like the thumb; it outlines a check box darker than the window, so that on a dark skin an
  * empty box has no outline; and its separating lines fall between two pixels at 150 % and vanish.
+ * Its focus is a shade of the outline, which nobody sees on a dark skin: here it is a ring.
  *
  * It centres the box of a line, where this style centres its glyphs. The box holds more room above
  * them than below, and more still in a line with Chinese from a fallback font: a label, its field

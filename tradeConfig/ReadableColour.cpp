@@ -1,5 +1,7 @@
 #include "tradeConfig/ReadableColour.h"
 
+#include <QPalette>
+
 #include <algorithm>
 #include <cmath>
 
@@ -42,4 +44,15 @@ QColor ReadableColour::on(const QColor& ground, const QColor& colour)
         (enough ? read : unread) = middle;
     }
     return shade(read);
+}
+
+QColor ReadableColour::focusRing(const QPalette& palette)
+{
+    QColor colour = palette.color(QPalette::Highlight);
+    // The light edges of buttons are nearest to a light ring. The field comes last: where a palette
+    // has light and dark grounds, no colour is seen on all of them.
+    for (const QPalette::ColorRole ground :
+         {QPalette::Light, QPalette::Button, QPalette::Window, QPalette::Base})
+        colour = on(palette.color(ground), colour);
+    return colour;
 }

@@ -1,11 +1,13 @@
 #include "tradeConfig/TableLineEdit.h"
 
+#include "tradeConfig/ReadableColour.h"
 #include "tradeConfig/TableLineEditAccessible.h"
 
 #include <QContextMenuEvent>
 #include <QDebug>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QPainter>
 
 CTableLineEdit::CTableLineEdit(int tableRow, QWidget* parent)
     : QLineEdit(parent)
@@ -48,6 +50,20 @@ void CTableLineEdit::focusOutEvent(QFocusEvent* event)
 {
     m_heldKeys.forget();
     QLineEdit::focusOutEvent(event);
+}
+
+// A style shows the focus on the frame, which a table's cells are without, or by the cursor, which
+// a text has only where it can be written.
+void CTableLineEdit::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (!hasFocus())
+        return;
+    constexpr int width = 2;
+    QPainter painter(this);
+    painter.setPen(QPen(ReadableColour::focusRing(palette()), width, Qt::SolidLine, Qt::SquareCap,
+                        Qt::MiterJoin));
+    painter.drawRect(rect().adjusted(width / 2, width / 2, -width / 2, -width / 2));
 }
 
 void CTableLineEdit::keyPressEvent(QKeyEvent* event)

@@ -11,6 +11,7 @@
  * sequence, shown at once. Nothing else the user does puts text into the cell. Modifiers alone,
  * chords with Meta, unknown keys and keys held since before the cell had the focus change nothing;
  * Tab and Shift+Tab move the focus as ever.
+ * A ring in the palette's highlight tells the cell that captures from its neighbours.
  */
 class CTableLineEdit : public QLineEdit {
     Q_OBJECT
@@ -34,6 +35,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
     int row;
 

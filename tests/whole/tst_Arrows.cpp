@@ -96,7 +96,7 @@ const House& house()
             {"gallery", "appearance", "*"},
             {"gallery", "tradeConfig", kitForHosts},
             {"appearance", "libskin", skinService},
-            {"appearance", "tradeConfig", "skin/*"},
+            {"appearance", "tradeConfig", "ReadableColour skin/*"},
             {"libskin", "tradeConfig", "skin/*"},
             {"designer", "tradeConfig", kitForHosts},
         },

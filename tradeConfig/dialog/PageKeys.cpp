@@ -77,7 +77,11 @@ void PageKeys::addKeys(const QVector<QKeySequence>& keys, void (PageKeys::*turn)
     for (const QKeySequence& key : keys) {
         auto* const shortcut = new QShortcut(key, dialog);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, [this, turn, step] { (this->*turn)(step); });
+        connect(shortcut, &QShortcut::activated, this, [this, dialog, turn, step] {
+            // Who works by keyboard sees where the focus is, as after Tab.
+            dialog->window()->setAttribute(Qt::WA_KeyboardFocusChange);
+            (this->*turn)(step);
+        });
     }
 }
 
