@@ -159,7 +159,7 @@ void CTradeConfigWidget::initSwitchBar()
 
 void CTradeConfigWidget::initValidators()
 {
-    const auto* const shared = new QuantityValidator(0, largestQuantity, this);
+    auto* const shared = new QuantityValidator(0, largestQuantity, this);
     const QList<QLineEdit*> edits = findChildren<QLineEdit*>();
     for (QLineEdit* const edit : edits) {
         edit->installEventFilter(this);
@@ -168,7 +168,7 @@ void CTradeConfigWidget::initValidators()
         else if (edit->isReadOnly())
             edit->setValidator(shared); // shows a key
         else if (edit->parent() == ui.spinBox_scale)
-            shared->install(*edit); // shows a number with its unit
+            shared->guard(*ui.spinBox_scale);
         else {
             shared->guard(*edit);
             MarkShade::prepare(*edit); // its marks come in the event filter

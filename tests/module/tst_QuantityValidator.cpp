@@ -35,8 +35,11 @@ private Q_SLOTS:
     void fieldsOfTheDialog();
     void percentagesOfTheDialog_data();
     void percentagesOfTheDialog();
-    void theScaleIsStillTyped_data();
-    void theScaleIsStillTyped();
+    void typingTheScale_data();
+    void typingTheScale();
+    void pastingTheScale();
+    void selectionOfTheScaleStays();
+    void unitOfTheFocusedSpinBoxOnly();
 };
 
 namespace {
@@ -534,27 +537,145 @@ void tst_QuantityValidator::percentagesOfTheDialog()
     }
 }
 
-void tst_QuantityValidator::theScaleIsStillTyped_data()
+void tst_QuantityValidator::typingTheScale_data()
 {
     QTest::addColumn<int>("before");
-    QTest::newRow("100, as designed") << 100;
-    QTest::newRow("125") << 125;
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("value"); // after Return
+    const auto row = [](int before, const char* typed, const char* shown, int value) {
+        QTest::addRow("%d %s", before, typed)
+            << before << QString::fromLatin1(typed) << QString::fromLatin1(shown) << value;
+    };
+    row(100, "*200", "200%", 200);
+    row(125, "*200", "200%", 200);
+    row(100, "*103", "103%", 103); // between the steps
+    row(100, "*300", "300%", 300);
+    row(150, "[>2", "250%", 250);
+    row(150, "]<", "150%", 150); // over the unit, behind which End goes
+    row(150, "]<<<05", "105%", 105);
+    row(150, "]<<", "15%", 150);
+    row(150, "]<<<<", "%", 150);
+    row(150, "]<<<<275", "275%", 275);
+    row(150, "[>>>>2", "2%", 150);
+    row(150, "*>", "%", 150);
+    row(150, "*<<<", "%", 150);
+    // Refused while typing.
+    row(150, "a", "150%", 150);
+    row(150, "*a", "150%", 150);
+    row(150, "]a", "150%", 150);
+    row(100, "*1a7b5c", "175%", 175);
+    row(100, "*+150", "150%", 150);
+    row(100, "*-150", "150%", 150);
+    row(100, "*1,5 0.", "150%", 150);
+    row(100, "*200%", "200%", 200);
+    row(150, "]0", "150%", 150);
+    row(150, "[9", "150%", 150);
+    row(100, "*301", "30%", 100);
+    row(100, "*999", "99%", 100);
+    // Brought into the range on leaving.
+    row(150, "*99", "99%", 150);
+    row(150, "*2", "2%", 150);
+    row(150, "*0", "0%", 150);
 }
 
-// Its editor has the same validator but shows a unit that is no part of a number.
-void tst_QuantityValidator::theScaleIsStillTyped()
+// Its editor has the validator of the others, and shows a unit that is no part of a number.
+void tst_QuantityValidator::typingTheScale()
 {
-    QFETCH(int, before);
-    const TestDialog dialog;
+    QFETCH(const int, before);
+    QFETCH(const QString, typed);
+    QFETCH(const int, value);
+    const TestDialog dialog([](FakeTrade& trade) { trade.parm().uiPageMode = 2; });
     QSpinBox& scale = *dialog->ui.spinBox_scale;
     scale.setValue(before);
-    QCOMPARE(scale.text(), QStringLiteral("%1%").arg(before));
-    type(scale, QStringLiteral("*150"));
-    QCOMPARE(scale.value(), 150);
-    type(scale, QStringLiteral("]<<<<275")); // the end is behind the unit
-    QTest::keyClick(&scale, Qt::Key_Return);
+    dialog->ui.stackedWidget_system->setCurrentIndex(2);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    for (int time = 0; time < 2; ++time) {
+        dialog.leaveField();
+        scale.setValue(before);
+        scale.setFocus();
+        QCOMPARE(scale.text(), QString::number(before) + QLatin1Char('%'));
+        type(scale, typed);
+        QTEST(scale.text(), "shown");
+        QTest::keyClick(&scale, Qt::Key_Return);
+        QCOMPARE(scale.value(), value);
+        QCOMPARE(scale.text(), QString::number(value) + QLatin1Char('%'));
+    }
+}
+
+void tst_QuantityValidator::pastingTheScale()
+{
+    const TestDialog dialog([](FakeTrade& trade) { trade.parm().uiPageMode = 2; });
+    QSpinBox& scale = *dialog->ui.spinBox_scale;
+    auto& editor = *scale.findChild<QLineEdit*>();
+    dialog->ui.stackedWidget_system->setCurrentIndex(2);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    scale.setFocus();
+    const std::pair<const char*, const char*> pastes[]
+        = {{"abc", "100%"}, {"2x0", "100%"}, {"二百", "100%"}, {"400", "100%"}, {"250", "250%"}};
+    for (const auto& [pasted, shown] : pastes) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(pasted));
+        scale.selectAll();
+        editor.paste();
+        QCOMPARE(scale.text(), QString::fromUtf8(shown));
+    }
+    scale.selectAll();
+    commit(scale, QStringLiteral("三"));
+    QCOMPARE(scale.text(), QStringLiteral("250%"));
+    QCOMPARE(scale.value(), 250);
+}
+
+// Coming back to the window changes nothing of what is selected there.
+void tst_QuantityValidator::selectionOfTheScaleStays()
+{
+    const TestDialog dialog([](FakeTrade& trade) { trade.parm().uiPageMode = 2; });
+    QSpinBox& scale = *dialog->ui.spinBox_scale;
+    auto& editor = *scale.findChild<QLineEdit*>();
+    scale.setValue(275);
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    editor.setSelection(1, 2);
+    QCoreApplication::sendEvent(&scale, &back);
+    QCOMPARE(editor.selectedText(), QStringLiteral("75"));
+    editor.setCursorPosition(1);
+    QCoreApplication::sendEvent(&scale, &back);
+    QCOMPARE(editor.cursorPosition(), 1);
     QCOMPARE(scale.value(), 275);
-    QCOMPARE(scale.text(), QStringLiteral("275%"));
+}
+
+void tst_QuantityValidator::unitOfTheFocusedSpinBoxOnly()
+{
+    const QuantityValidator validator(0, 10000000, nullptr);
+    QWidget window;
+    QLineEdit field(&window);
+    QSpinBox box(&window);
+    box.setRange(100, 300);
+    box.setSuffix(QStringLiteral("%"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto stateOf = [&validator](const char* text) {
+        QString copy = QString::fromLatin1(text);
+        int cursor = 0;
+        return validator.validate(copy, cursor);
+    };
+    field.setFocus();
+    QCOMPARE(stateOf("150%"), QValidator::Invalid);
+    QCOMPARE(stateOf("500"), QValidator::Acceptable);
+    box.setFocus();
+    QCOMPARE(stateOf("150%"), QValidator::Acceptable);
+    QCOMPARE(stateOf("150"), QValidator::Acceptable);
+    QCOMPARE(stateOf("15%"), QValidator::Intermediate);
+    QCOMPARE(stateOf("%"), QValidator::Intermediate);
+    for (const char* const text : {"500%", "500", "150%%", "1%50", "150 %", "+150%", "a%", "150px"})
+        QCOMPARE(stateOf(text), QValidator::Invalid);
+    QString completed = QStringLiteral("150");
+    int cursor = 3;
+    validator.validate(completed, cursor);
+    QCOMPARE(completed, QStringLiteral("150%"));
+    QCOMPARE(cursor, 3);
+    field.setFocus();
+    QCOMPARE(stateOf("150%"), QValidator::Invalid);
 }
 
 TRADECONFIG_TEST_MAIN(tst_QuantityValidator)

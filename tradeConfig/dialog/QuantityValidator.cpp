@@ -1,6 +1,9 @@
 #include "tradeConfig/dialog/QuantityValidator.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QLineEdit>
+#include <QSpinBox>
 
 #include <algorithm>
 
@@ -26,17 +29,31 @@ QuantityValidator::QuantityValidator(int bottom, int top, QObject* parent)
 {
 }
 
-QValidator::State QuantityValidator::validate(QString& input, int&) const
+QValidator::State QuantityValidator::validate(QString& input, int& position) const
+{
+    const auto* const box = qobject_cast<QSpinBox*>(QApplication::focusWidget());
+    if (!box)
+        return stateOf(input);
+    const QString unit = box->suffix();
+    const bool hasUnit = input.endsWith(unit);
+    if (stateOf(hasUnit ? input.chopped(unit.size()) : input) == Invalid)
+        return Invalid;
+    if (!hasUnit)
+        input += unit;
+    return static_cast<const QAbstractSpinBox*>(box)->validate(input, position);
+}
+
+QValidator::State QuantityValidator::stateOf(const QString& number) const
 {
     qint64 value = 0;
-    for (const QChar character : qAsConst(input)) {
+    for (const QChar character : number) {
         if (character < QLatin1Char('0') || character > QLatin1Char('9'))
             return Invalid;
         value = value * 10 + (character.unicode() - u'0');
         if (value > top())
             return Invalid;
     }
-    return input.isEmpty() || value < bottom() ? Intermediate : Acceptable;
+    return number.isEmpty() || value < bottom() ? Intermediate : Acceptable;
 }
 
 void QuantityValidator::install(QLineEdit& edit) const
@@ -48,9 +65,13 @@ void QuantityValidator::install(QLineEdit& edit) const
     const QSignalBlocker unchanged(edit);
     const QString text = edit.text();
     const int cursor = edit.cursorPosition();
+    const int selected = edit.selectionStart();
+    const int length = edit.selectionLength();
     edit.clear();
     edit.setText(text);
     edit.setCursorPosition(cursor);
+    if (length > 0)
+        edit.setSelection(selected, length);
 }
 
 void QuantityValidator::guard(QLineEdit& edit) const
@@ -66,4 +87,18 @@ void QuantityValidator::guard(QLineEdit& edit) const
                 else
                     edit.undo();
             });
+}
+
+void QuantityValidator::guard(QSpinBox& box)
+{
+    box.findChild<QLineEdit*>()->setValidator(this);
+    box.installEventFilter(this);
+}
+
+bool QuantityValidator::eventFilter(QObject* watched, QEvent* event)
+{
+    // What came in while the box had no focus, its unit with it, has been taken for invalid.
+    if (event->type() == QEvent::FocusIn)
+        install(*watched->findChild<QLineEdit*>());
+    return QIntValidator::eventFilter(watched, event);
 }
