@@ -2,30 +2,25 @@
 
 #include "client/DataDirectory.h"
 #include "client/LanguageMenu.h"
-#include "client/RecordFilter.h"
+#include "client/RecordActions.h"
 #include "client/RecordModel.h"
+#include "client/RecordView.h"
 #include "client/SettingsModule.h"
 #include "client/SettingsWindow.h"
 #include "client/TradeCore.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QDir>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
-#include <QTableView>
 #include <QTime>
 #include <QToolBar>
-#include <QVBoxLayout>
 
 MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
                        const DataDirectory& directory, QWidget* parent)
@@ -33,25 +28,22 @@ MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
     , m_module(module)
     , m_core(core)
     , m_directory(directory)
-    , m_model(new RecordModel(this))
-    , m_filter(new RecordFilter(this))
+    , m_view(new RecordView)
+    , m_languageMenu(new LanguageMenu(directory, this))
+    , m_recordActions(new RecordActions(core, this))
 {
     setWindowTitle(tr("交易客户端"));
-    m_model->show(core.record());
-    m_filter->setSourceModel(m_model);
-    m_filter->setFilterKeyColumn(-1);
-    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    model()->show(core.record());
     buildActions();
     buildView();
-    connect(&core, &TradeCore::committed, this, &MainWindow::showCommit);
-    // Queued: the dialog that confirmed is closed before the box comes up.
-    connect(&core, &TradeCore::storingFailed, this, &MainWindow::showStoringFailure,
-            Qt::QueuedConnection);
+    connectRecord();
 
     const QSize wanted(980, 680);
     const QSize usualFrame(4, 40);
     resize(wanted.boundedTo(screen()->availableSize() - usualFrame));
 }
+
+RecordModel* MainWindow::model() const { return m_view->model(); }
 
 void MainWindow::buildActions()
 {
@@ -73,13 +65,13 @@ void MainWindow::buildActions()
     QMenu* const file = menuBar()->addMenu(tr("系统(&S)"));
     file->addAction(settings);
     file->addSeparator();
+    m_recordActions->fill(file);
+    file->addSeparator();
     file->addAction(quit);
     QMenu* const view = menuBar()->addMenu(tr("视图(&V)"));
     m_skinMenu = view->addMenu(tr("皮肤"));
-    m_languageMenu = new LanguageMenu(m_directory, this);
     m_languageMenu->setObjectName(QStringLiteral("menu_language"));
     view->addMenu(m_languageMenu);
-    connect(m_languageMenu, &LanguageMenu::chosen, this, &MainWindow::takeLanguage);
     QMenu* const help = menuBar()->addMenu(tr("帮助(&H)"));
     help->addAction(about);
 
@@ -88,63 +80,16 @@ void MainWindow::buildActions()
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->addAction(settings);
+    bar->addActions({settings, m_recordActions->undoAction()});
 }
 
 void MainWindow::buildView()
 {
-    auto* const search = new QLineEdit;
-    search->setPlaceholderText(tr("搜索参数、字段或数值"));
-    search->setClearButtonEnabled(true);
-    connect(search, &QLineEdit::textChanged, m_filter,
-            &QSortFilterProxyModel::setFilterFixedString);
-    auto* const changedOnly = new QCheckBox(tr("仅显示最近修改"));
-    connect(changedOnly, &QCheckBox::toggled, m_filter, &RecordFilter::setChangedOnly);
-
-    auto* const heading = new QLabel(tr("交易参数"));
-    QFont headingFont = heading->font();
-    headingFont.setPointSizeF(headingFont.pointSizeF() * 1.5);
-    headingFont.setBold(true);
-    heading->setFont(headingFont);
-    m_summary = new QLabel(tr("尚未修改"));
-    m_summary->setObjectName(QStringLiteral("label_summary"));
-
-    m_table = new QTableView;
-    m_table->setModel(m_filter);
-    m_table->setObjectName(QStringLiteral("tableView_record"));
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 10);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    const int em = m_table->fontMetrics().horizontalAdvance(QLatin1Char('M'));
-    constexpr int columnWidths[] = {20, 15, 10, 12};
-    for (int column = 0; column < RecordModel::ChangeColumn; ++column)
-        m_table->setColumnWidth(column, columnWidths[column] * em);
-
-    auto* const top = new QHBoxLayout;
-    top->addWidget(heading);
-    top->addSpacing(12);
-    top->addWidget(m_summary, 1);
-    top->addWidget(changedOnly);
-    top->addWidget(search);
-    search->setMinimumWidth(16 * em);
-    auto* const central = new QWidget;
-    auto* const layout = new QVBoxLayout(central);
-    layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(10);
-    layout->addLayout(top);
-    layout->addWidget(m_table);
     // At a large scale a small screen has less room than even the least of this.
     auto* const area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setWidget(central);
+    area->setWidget(m_view);
     setCentralWidget(area);
 
     auto* const place
@@ -153,6 +98,21 @@ void MainWindow::buildView()
     place->setToolTip(place->text());
     place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(place, 1);
+}
+
+void MainWindow::connectRecord()
+{
+    connect(&m_core, &TradeCore::committed, this, &MainWindow::showCommit);
+    // Queued: the dialog that confirmed is closed before the box comes up.
+    connect(&m_core, &TradeCore::storingFailed, this, &MainWindow::showStoringFailure,
+            Qt::QueuedConnection);
+    connect(m_languageMenu, &LanguageMenu::chosen, this, &MainWindow::takeLanguage);
+    connect(m_recordActions, &RecordActions::imported, this,
+            [this] { showChanges(tr("%1 已导入，修改了 %n 项", nullptr, takeChanges())); });
+    connect(m_recordActions, &RecordActions::restored, this,
+            [this] { showChanges(tr("%1 已恢复默认值，修改了 %n 项", nullptr, takeChanges())); });
+    connect(m_recordActions, &RecordActions::undone, this,
+            [this] { showChanges(tr("%1 已撤消，修改了 %n 项", nullptr, takeChanges())); });
 }
 
 SettingsWindow* MainWindow::settingsWindow() const { return m_settings; }
@@ -166,11 +126,11 @@ void MainWindow::openSettings()
             return;
         }
         m_settings = new SettingsWindow(dialog, this);
-        connect(m_settings, &SettingsWindow::closed, this, &MainWindow::showUncommitted);
-        // The dialog has a choice of its own, which it would store with the rest.
-        m_languageMenu->setEnabled(false);
-        connect(m_settings, &SettingsWindow::closed, m_languageMenu,
-                [this] { m_languageMenu->setEnabled(true); });
+        connect(m_settings, &SettingsWindow::closed, this, [this] {
+            showUncommitted();
+            setRecordIsEdited(false);
+        });
+        setRecordIsEdited(true);
     }
     m_settings->show();
     m_settings->raise();
@@ -189,24 +149,40 @@ void MainWindow::comeToFront()
     }
 }
 
+// The dialog stores what it shows: nobody else changes that meanwhile.
+void MainWindow::setRecordIsEdited(bool edited)
+{
+    m_languageMenu->setEnabled(!edited);
+    m_recordActions->setRefused(edited);
+}
+
+// Marks what differs from what is shown. Returns how much.
+int MainWindow::takeChanges()
+{
+    model()->showChanges(m_core.record());
+    m_recordActions->noteChange();
+    return model()->changeCount();
+}
+
+void MainWindow::showChanges(const QString& summary)
+{
+    m_view->setSummary(summary.arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))));
+}
+
 void MainWindow::showCommit()
 {
-    m_model->showChanges(m_core.record());
-    const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
-    m_summary->setText(
-        m_model->changeCount() == 0
-            ? tr("%1 已确认，没有修改").arg(time)
-            : tr("%1 已确认，修改了 %n 项", nullptr, m_model->changeCount()).arg(time));
+    const int count = takeChanges();
+    showChanges(count == 0 ? tr("%1 已确认，没有修改")
+                           : tr("%1 已确认，修改了 %n 项", nullptr, count));
 }
 
 // Some edits reach the record without a confirm.
 void MainWindow::showUncommitted()
 {
-    const int count = m_model->addChanges(m_core.record());
-    if (count == 0)
-        return;
-    const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
-    m_summary->setText(tr("%1 未经确认，修改了 %n 项", nullptr, count).arg(time));
+    const int count = model()->addChanges(m_core.record());
+    m_recordActions->noteChange();
+    if (count > 0)
+        showChanges(tr("%1 未经确认，修改了 %n 项", nullptr, count));
 }
 
 // The record knows the language too.

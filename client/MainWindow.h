@@ -5,11 +5,10 @@
 
 class DataDirectory;
 class LanguageMenu;
-class QLabel;
 class QMenu;
-class QTableView;
-class RecordFilter;
+class RecordActions;
 class RecordModel;
+class RecordView;
 class SettingsModule;
 class SettingsWindow;
 class TradeCore;
@@ -30,11 +29,15 @@ public:
     SettingsWindow* settingsWindow() const;
     /// Where skins are listed; empty until somebody fills it.
     QMenu* skinMenu() const { return m_skinMenu; }
-    RecordModel* model() const { return m_model; }
+    RecordModel* model() const;
 
 private:
     void buildActions();
     void buildView();
+    void connectRecord();
+    void setRecordIsEdited(bool edited);
+    int takeChanges();
+    void showChanges(const QString& summary);
     void showCommit();
     void showUncommitted();
     void takeLanguage(int index);
@@ -44,11 +47,9 @@ private:
     const SettingsModule& m_module;
     TradeCore& m_core;
     const DataDirectory& m_directory;
-    RecordModel* m_model;
-    RecordFilter* m_filter;
+    RecordView* m_view;
+    LanguageMenu* m_languageMenu;
+    RecordActions* m_recordActions;
     QMenu* m_skinMenu = nullptr;
-    LanguageMenu* m_languageMenu = nullptr;
-    QTableView* m_table = nullptr;
-    QLabel* m_summary = nullptr;
     QPointer<SettingsWindow> m_settings;
 };

@@ -2,6 +2,7 @@
 
 #include "client/DataDirectory.h"
 #include "client/FileReplace.h"
+#include "client/RecordFile.h"
 #include "client/RecordJson.h"
 
 #include <QDateTime>
@@ -41,32 +42,15 @@ RecordStore::LoadReport RecordStore::read(OwnedRecord& record)
 
     LoadReport report;
     report.file = m_fileName;
-    const auto unusable = [&](const QString& reason) {
-        report.problems += reason;
-        report.damage = m_toKeep = LoadReport::Whole;
-        return report;
-    };
     const QFileInfo info(m_fileName);
     if (!info.exists() && !info.isSymLink())
         return report;
-    if (info.exists() && !info.isFile())
-        return unusable(tr("无法读取：%1").arg(tr("不是普通文件")));
-    QFile file(m_fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return unusable(tr("无法读取：%1").arg(file.errorString()));
-    const QByteArray content = file.readAll();
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
-    if (error.error != QJsonParseError::NoError)
-        return unusable(tr("第 %1 字节处格式错误：%2").arg(error.offset).arg(error.errorString()));
-    if (!document.isObject())
-        return unusable(tr("内容不是 JSON 对象"));
-
-    report.problems = RecordJson::toRecord(document.object(), record);
-    m_foreign = RecordJson::foreignFields(document.object());
+    RecordFile::Content content = RecordFile::read(m_fileName, record);
+    report.problems = content.problems;
+    m_foreign = content.foreign;
     if (!report.isClean()) {
-        report.damage = m_toKeep = LoadReport::WrongValues;
-        m_wrongFile = content;
+        report.damage = m_toKeep = content.isRecord ? LoadReport::WrongValues : LoadReport::Whole;
+        m_wrongFile = content.bytes;
     }
     return report;
 }
@@ -86,7 +70,7 @@ QString RecordStore::keepAside()
 {
     QString place = m_toKeep == LoadReport::WrongValues ? earlierCopy() : QString();
     if (place.isEmpty()) {
-        const QString fresh = datedName();
+        const QString fresh = datedName(QStringLiteral("bad"));
         const bool kept = m_toKeep == LoadReport::Whole ? QFile::rename(m_fileName, fresh)
                                                         : replaceFile(fresh, m_wrongFile).isEmpty();
         if (!kept)
@@ -97,15 +81,22 @@ QString RecordStore::keepAside()
     return place;
 }
 
-QString RecordStore::datedName() const
+QString RecordStore::keepOld(const OwnedRecord& record) const
+{
+    if (!m_directory.makeConfigDirectory())
+        return tr("无法创建目录 %1").arg(m_directory.configDirectory());
+    return RecordFile::write(datedName(QStringLiteral("old")), record);
+}
+
+QString RecordStore::datedName(const QString& kind) const
 {
     const QFileInfo info(m_fileName);
     const QString base = info.absoluteDir().absoluteFilePath(info.completeBaseName());
     const QString stamp
         = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_HH-mm-ss"));
-    QString name = QStringLiteral("%1.%2.bad.json").arg(base, stamp);
+    QString name = QStringLiteral("%1.%2.%3.json").arg(base, stamp, kind);
     for (int number = 2; QFileInfo::exists(name); ++number)
-        name = QStringLiteral("%1.%2_%3.bad.json").arg(base, stamp).arg(number);
+        name = QStringLiteral("%1.%2_%3.%4.json").arg(base, stamp).arg(number).arg(kind);
     return name;
 }
 

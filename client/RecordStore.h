@@ -53,6 +53,10 @@ public:
     /// file that was not right could not be kept.
     QString save(const OwnedRecord& record);
 
+    /// Keeps @p record under a dated name of its own beside the file. Returns an empty text, or why
+    /// it failed.
+    QString keepOld(const OwnedRecord& record) const;
+
     /// Removes what writes that were cut short have left. Only the one client that holds the
     /// data directory may call it.
     void removeLeftovers() const;
@@ -63,7 +67,7 @@ public:
 private:
     QString keepAside();
     QString earlierCopy() const;
-    QString datedName() const;
+    QString datedName(const QString& kind) const;
 
     const DataDirectory& m_directory;
     QString m_fileName;

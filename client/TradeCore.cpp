@@ -25,6 +25,16 @@ QString TradeCore::storeIfChanged()
     return failure;
 }
 
+QString TradeCore::replace(const OwnedRecord& record)
+{
+    QString failure = m_store.keepOld(m_record);
+    if (failure.isEmpty())
+        failure = m_store.save(record);
+    if (failure.isEmpty())
+        m_stored = m_record = record;
+    return failure;
+}
+
 TradeParm* TradeCore::GetTradeParm() { return &m_record.get(); }
 
 void TradeCore::SaveTradeParm()

@@ -31,6 +31,10 @@ public:
     /// record without a commit. Returns an empty text, or why storing failed.
     QString storeIfChanged();
 
+    /// Puts @p record in the place of the one there is, which is kept aside, and stores it. Returns
+    /// an empty text, or why nothing was changed.
+    QString replace(const OwnedRecord& record);
+
     void Placeholder0() override { }
     void Placeholder1() override { }
     void Placeholder2() override { }

@@ -1287,22 +1287,6 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>Toolbar</translation>
     </message>
     <message>
-        <source>搜索参数、字段或数值</source>
-        <translation>Search parameters, fields or values</translation>
-    </message>
-    <message>
-        <source>仅显示最近修改</source>
-        <translation>Only the latest changes</translation>
-    </message>
-    <message>
-        <source>交易参数</source>
-        <translation>Trading parameters</translation>
-    </message>
-    <message>
-        <source>尚未修改</source>
-        <translation>Nothing changed yet</translation>
-    </message>
-    <message>
         <source>参数文件：%1</source>
         <translation>Record: %1</translation>
     </message>
@@ -1352,6 +1336,27 @@ Data directory: %3</translation>
             <numerusform>%1 not confirmed, %n values changed</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 已导入，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 Imported, %n change</numerusform>
+            <numerusform>%1 Imported, %n changes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已恢复默认值，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 Defaults restored, %n change</numerusform>
+            <numerusform>%1 Defaults restored, %n changes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已撤消，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 Undone, %n change</numerusform>
+            <numerusform>%1 Undone, %n changes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1387,6 +1392,82 @@ Data directory: %3</translation>
     <message>
         <source>设置模块 %1 无法创建设置窗口</source>
         <translation>The settings module %1 could not create the settings window</translation>
+    </message>
+</context>
+<context>
+    <name>RecordActions</name>
+    <message>
+        <source>导出交易参数(&amp;E)…</source>
+        <translation>&amp;Export Trading Parameters…</translation>
+    </message>
+    <message>
+        <source>导入交易参数(&amp;I)…</source>
+        <translation>&amp;Import Trading Parameters…</translation>
+    </message>
+    <message>
+        <source>恢复默认值(&amp;D)…</source>
+        <translation>Restore &amp;Defaults…</translation>
+    </message>
+    <message>
+        <source>撤消(&amp;U)</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>交易参数 (*.json)</source>
+        <translation>Trading parameters (*.json)</translation>
+    </message>
+    <message>
+        <source>导出交易参数</source>
+        <translation>Export Trading Parameters</translation>
+    </message>
+    <message>
+        <source>%1 是客户端自己的文件，请选择其他文件。</source>
+        <translation>%1 is the client&apos;s own file. Please choose another one.</translation>
+    </message>
+    <message>
+        <source>导入交易参数</source>
+        <translation>Import Trading Parameters</translation>
+    </message>
+    <message>
+        <source>交易参数 (*.json);;所有文件 (*)</source>
+        <translation>Trading parameters (*.json);;All files (*)</translation>
+    </message>
+    <message>
+        <source>%1 无法导入，交易参数未改动：
+%2</source>
+        <translation>%1 cannot be imported; the trading parameters are as they were:
+%2</translation>
+    </message>
+    <message>
+        <source>用 %1 中的交易参数替换当前的交易参数吗？
+
+当前的交易参数会另存一份。</source>
+        <translation>Replace the current trading parameters by those in %1?
+
+A copy of the current ones is kept.</translation>
+    </message>
+    <message>
+        <source>撤消导入(&amp;U)</source>
+        <translation>&amp;Undo Import</translation>
+    </message>
+    <message>
+        <source>将所有交易参数恢复为默认值吗？
+
+当前的交易参数会另存一份。</source>
+        <translation>Restore the defaults of all trading parameters?
+
+A copy of the current ones is kept.</translation>
+    </message>
+    <message>
+        <source>撤消恢复默认值(&amp;U)</source>
+        <translation>&amp;Undo Restoring Defaults</translation>
+    </message>
+</context>
+<context>
+    <name>RecordChange</name>
+    <message>
+        <source>文件中没有任何交易参数</source>
+        <translation>the file holds no trading parameter</translation>
     </message>
 </context>
 <context>
@@ -1861,6 +1942,25 @@ Data directory: %3</translation>
     </message>
 </context>
 <context>
+    <name>RecordFile</name>
+    <message>
+        <source>无法读取：%1</source>
+        <translation>cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>is not a regular file</translation>
+    </message>
+    <message>
+        <source>第 %1 字节处格式错误：%2</source>
+        <translation>malformed at byte %1: %2</translation>
+    </message>
+    <message>
+        <source>内容不是 JSON 对象</source>
+        <translation>is not a JSON object</translation>
+    </message>
+</context>
+<context>
     <name>RecordJson</name>
     <message>
         <source>%1 的值 %2 无效（应为%3）</source>
@@ -1905,18 +2005,6 @@ Data directory: %3</translation>
 <context>
     <name>RecordStore</name>
     <message>
-        <source>无法读取：%1</source>
-        <translation>cannot be read: %1</translation>
-    </message>
-    <message>
-        <source>第 %1 字节处格式错误：%2</source>
-        <translation>malformed at byte %1: %2</translation>
-    </message>
-    <message>
-        <source>内容不是 JSON 对象</source>
-        <translation>is not a JSON object</translation>
-    </message>
-    <message>
         <source>无法创建目录 %1</source>
         <translation>Cannot create the directory %1</translation>
     </message>
@@ -1948,9 +2036,24 @@ Data directory: %3</translation>
         <source>无法保留不可用的文件 %1</source>
         <translation>The unusable file %1 could not be kept</translation>
     </message>
+</context>
+<context>
+    <name>RecordView</name>
     <message>
-        <source>不是普通文件</source>
-        <translation>is not a regular file</translation>
+        <source>仅显示最近修改</source>
+        <translation>Only the latest changes</translation>
+    </message>
+    <message>
+        <source>尚未修改</source>
+        <translation>Nothing changed yet</translation>
+    </message>
+    <message>
+        <source>搜索参数、字段或数值</source>
+        <translation>Search parameters, fields or values</translation>
+    </message>
+    <message>
+        <source>交易参数</source>
+        <translation>Trading parameters</translation>
     </message>
 </context>
 <context>

@@ -1287,22 +1287,6 @@
         <translation>工具列</translation>
     </message>
     <message>
-        <source>搜索参数、字段或数值</source>
-        <translation>搜尋參數、欄位或數值</translation>
-    </message>
-    <message>
-        <source>仅显示最近修改</source>
-        <translation>僅顯示最近修改</translation>
-    </message>
-    <message>
-        <source>交易参数</source>
-        <translation>交易參數</translation>
-    </message>
-    <message>
-        <source>尚未修改</source>
-        <translation>尚未修改</translation>
-    </message>
-    <message>
         <source>参数文件：%1</source>
         <translation>參數檔案：%1</translation>
     </message>
@@ -1350,6 +1334,24 @@
             <numerusform>%1 未經確認，修改了 %n 項</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 已导入，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 已匯入，修改了 %n 項</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已恢复默认值，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 已還原預設值，修改了 %n 項</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 已撤消，修改了 %n 项</source>
+        <translation>
+            <numerusform>%1 已復原，修改了 %n 項</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1385,6 +1387,82 @@
     <message>
         <source>设置模块 %1 无法创建设置窗口</source>
         <translation>設定模組 %1 無法建立設定視窗</translation>
+    </message>
+</context>
+<context>
+    <name>RecordActions</name>
+    <message>
+        <source>导出交易参数(&amp;E)…</source>
+        <translation>匯出交易參數(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>导入交易参数(&amp;I)…</source>
+        <translation>匯入交易參數(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>恢复默认值(&amp;D)…</source>
+        <translation>還原預設值(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>撤消(&amp;U)</source>
+        <translation>復原(&amp;U)</translation>
+    </message>
+    <message>
+        <source>交易参数 (*.json)</source>
+        <translation>交易參數 (*.json)</translation>
+    </message>
+    <message>
+        <source>导出交易参数</source>
+        <translation>匯出交易參數</translation>
+    </message>
+    <message>
+        <source>%1 是客户端自己的文件，请选择其他文件。</source>
+        <translation>%1 是用戶端自己的檔案，請選擇其他檔案。</translation>
+    </message>
+    <message>
+        <source>导入交易参数</source>
+        <translation>匯入交易參數</translation>
+    </message>
+    <message>
+        <source>交易参数 (*.json);;所有文件 (*)</source>
+        <translation>交易參數 (*.json);;所有檔案 (*)</translation>
+    </message>
+    <message>
+        <source>%1 无法导入，交易参数未改动：
+%2</source>
+        <translation>%1 無法匯入，交易參數未改動：
+%2</translation>
+    </message>
+    <message>
+        <source>用 %1 中的交易参数替换当前的交易参数吗？
+
+当前的交易参数会另存一份。</source>
+        <translation>用 %1 中的交易參數取代目前的交易參數嗎？
+
+目前的交易參數會另存一份。</translation>
+    </message>
+    <message>
+        <source>撤消导入(&amp;U)</source>
+        <translation>復原匯入(&amp;U)</translation>
+    </message>
+    <message>
+        <source>将所有交易参数恢复为默认值吗？
+
+当前的交易参数会另存一份。</source>
+        <translation>將所有交易參數還原為預設值嗎？
+
+目前的交易參數會另存一份。</translation>
+    </message>
+    <message>
+        <source>撤消恢复默认值(&amp;U)</source>
+        <translation>復原還原預設值(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>RecordChange</name>
+    <message>
+        <source>文件中没有任何交易参数</source>
+        <translation>檔案中沒有任何交易參數</translation>
     </message>
 </context>
 <context>
@@ -1859,6 +1937,25 @@
     </message>
 </context>
 <context>
+    <name>RecordFile</name>
+    <message>
+        <source>无法读取：%1</source>
+        <translation>無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>不是一般檔案</translation>
+    </message>
+    <message>
+        <source>第 %1 字节处格式错误：%2</source>
+        <translation>第 %1 位元組處格式錯誤：%2</translation>
+    </message>
+    <message>
+        <source>内容不是 JSON 对象</source>
+        <translation>內容不是 JSON 物件</translation>
+    </message>
+</context>
+<context>
     <name>RecordJson</name>
     <message>
         <source>%1 的值 %2 无效（应为%3）</source>
@@ -1903,18 +2000,6 @@
 <context>
     <name>RecordStore</name>
     <message>
-        <source>无法读取：%1</source>
-        <translation>無法讀取：%1</translation>
-    </message>
-    <message>
-        <source>第 %1 字节处格式错误：%2</source>
-        <translation>第 %1 位元組處格式錯誤：%2</translation>
-    </message>
-    <message>
-        <source>内容不是 JSON 对象</source>
-        <translation>內容不是 JSON 物件</translation>
-    </message>
-    <message>
         <source>无法创建目录 %1</source>
         <translation>無法建立目錄 %1</translation>
     </message>
@@ -1946,9 +2031,24 @@
         <source>无法保留不可用的文件 %1</source>
         <translation>無法保留不可用的檔案 %1</translation>
     </message>
+</context>
+<context>
+    <name>RecordView</name>
     <message>
-        <source>不是普通文件</source>
-        <translation>不是一般檔案</translation>
+        <source>仅显示最近修改</source>
+        <translation>僅顯示最近修改</translation>
+    </message>
+    <message>
+        <source>尚未修改</source>
+        <translation>尚未修改</translation>
+    </message>
+    <message>
+        <source>搜索参数、字段或数值</source>
+        <translation>搜尋參數、欄位或數值</translation>
+    </message>
+    <message>
+        <source>交易参数</source>
+        <translation>交易參數</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void changeWithoutAConfirm_data();
     void changeWithoutAConfirm();
     void languageFromTheMenu();
+    void restoresDefaultsAndUndoes();
     void takesTheMouse();
     void opensAgainAndAgain();
     void secondRequestFindsTheSameWindow();
@@ -288,6 +289,30 @@ void tst_ClientWindow::languageFromTheMenu()
     QCOMPARE(cell("languageIndex", RecordModel::MeaningColumn), QStringLiteral("English"));
     QCOMPARE(marked(), QStringList{QStringLiteral("languageIndex")});
     QCOMPARE(StartSettings::read(*m_directory).language, QStringLiteral("en_US"));
+}
+
+void tst_ClientWindow::restoresDefaultsAndUndoes()
+{
+    const auto action
+        = [this](const char* name) { return m_window->findChild<QAction*>(QLatin1String(name)); };
+    const auto* const summary = m_window->findChild<QLabel*>(QStringLiteral("label_summary"));
+    m_core->GetTradeParm()->lockMinutes = 45;
+    m_window->model()->show(m_core->record());
+    const ModalAnswer yes = ModalAnswer::pressing(QMessageBox::Yes);
+    action("action_restore")->trigger();
+    QVERIFY(yes.came());
+    QCOMPARE(marked(), QStringList{QStringLiteral("lockMinutes")});
+    QCOMPARE(cell("lockMinutes", RecordModel::ChangeColumn), QStringLiteral("原为 45 分钟"));
+    QVERIFY(summary->text().endsWith(QStringLiteral(" 已恢复默认值，修改了 1 项")));
+
+    m_window->openSettings();
+    QVERIFY(!action("action_undo")->isEnabled());
+    QVERIFY(!action("action_import")->isEnabled());
+    m_window->settingsWindow()->close();
+    action("action_undo")->trigger();
+    QCOMPARE(cell("lockMinutes", RecordModel::ValueColumn), QStringLiteral("45"));
+    QVERIFY(summary->text().endsWith(QStringLiteral(" 已撤消，修改了 1 项")));
+    QVERIFY(!action("action_undo")->isEnabled());
 }
 
 void tst_ClientWindow::takesTheMouse()
