@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QLocale>
 #include <QMenu>
 #include <QWidget>
 
@@ -19,13 +20,28 @@ SkinSwitcher::SkinSwitcher(QObject* parent)
 
 void SkinSwitcher::fill(QMenu* menu)
 {
+    // Folders come and go.
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { list(menu); });
+    list(menu);
+}
+
+void SkinSwitcher::list(QMenu* menu)
+{
+    const SkinLibrary& library = *SkinLibrary::instance();
+    QStringList names = library.names();
+    if (!names.contains(library.current()) && !m_folders.contains(library.current()))
+        m_folders += library.current();
+    names += m_folders;
+    menu->clear();
+    delete menu->findChild<QActionGroup*>(QString(), Qt::FindDirectChildrenOnly);
     auto* const group = new QActionGroup(menu);
-    const QStringList names = SkinLibrary::instance()->names();
-    for (const QString& name : names) {
-        QAction* const action = menu->addAction(name);
+    for (const QString& name : qAsConst(names)) {
+        QAction* const action = menu->addAction(library.title(name, QLocale().name()));
         action->setCheckable(true);
-        action->setChecked(name == SkinLibrary::instance()->currentName());
+        action->setChecked(name == library.current());
         action->setObjectName(QStringLiteral("action_skin_") + name);
+        if (m_folders.contains(name))
+            action->setToolTip(name);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, name] { choose(name); });
     }
@@ -33,8 +49,15 @@ void SkinSwitcher::fill(QMenu* menu)
 
 void SkinSwitcher::choose(const QString& name)
 {
-    SkinLibrary::instance()->load(name);
-    Q_EMIT chosen(name);
+    SkinLibrary* const library = SkinLibrary::instance();
+    const QString before = library->current();
+    if (library->load(name)) {
+        Q_EMIT chosen(name);
+        return;
+    }
+    const QVector<CorvelSkin::SkinProblem> problems = library->problems();
+    library->load(before);
+    Q_EMIT refused(library->title(name, QLocale().name()), problems);
 }
 
 void SkinSwitcher::applyPalette()

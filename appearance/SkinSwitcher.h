@@ -1,6 +1,9 @@
 #pragma once
 
+#include "libskin/SkinTable.h"
+
 #include <QObject>
+#include <QStringList>
 
 class QMenu;
 
@@ -12,14 +15,21 @@ class SkinSwitcher : public QObject {
 public:
     explicit SkinSwitcher(QObject* parent = nullptr);
 
-    /// Fills @p menu with the skins; a choice there takes effect at once.
+    /// Keeps @p menu filled with the skins, by their names in the language of the interface: those
+    /// that the library lists, and those that were loaded from a folder of their own. A choice
+    /// there takes effect at once.
     void fill(QMenu* menu);
 
 Q_SIGNALS:
     /// After the user has chosen a skin in a menu.
     void chosen(const QString& name);
+    /// When one that was chosen cannot be used; the skin is then as it was before.
+    void refused(const QString& title, const QVector<CorvelSkin::SkinProblem>& problems);
 
 private:
+    void list(QMenu* menu);
     void choose(const QString& name);
     static void applyPalette();
+
+    QStringList m_folders; ///< of skins that the library does not list
 };

@@ -13,7 +13,7 @@ struct Parser : QCommandLineParser {
         setApplicationDescription(ClientOptions::tr("桌面证券交易客户端"));
         addHelpOption();
         addVersionOption();
-        addOptions({screenshots, gallery, scale, printRecord, skin, module});
+        addOptions({screenshots, gallery, scale, printRecord, skin, checkSkin, module});
     }
 
     const QCommandLineOption screenshots{
@@ -28,6 +28,10 @@ struct Parser : QCommandLineParser {
     const QCommandLineOption skin{QStringLiteral("skin"),
                                   ClientOptions::tr("使用指定的皮肤：皮肤名称或皮肤所在的目录。"),
                                   ClientOptions::tr("皮肤")};
+    const QCommandLineOption checkSkin{
+        QStringLiteral("check-skin"),
+        ClientOptions::tr("列出皮肤的所有问题（文件、键、原因）后退出，有问题时状态为 1。"),
+        ClientOptions::tr("目录")};
     const QCommandLineOption gallery{
         QStringLiteral("gallery"),
         ClientOptions::tr("展示所有自绘控件的每种模式和状态，而不打开客户端。")};
@@ -55,6 +59,9 @@ ClientOptions ClientOptions::parse()
     options.screenshotDirectory = parser.value(parser.screenshots);
     if (parser.isSet(parser.screenshots) && options.screenshotDirectory.isEmpty())
         refuse(tr("--screenshots 需要一个目录"));
+    options.checkedSkin = parser.value(parser.checkSkin);
+    if (parser.isSet(parser.checkSkin) && options.checkedSkin.isEmpty())
+        refuse(tr("--check-skin 需要一个目录"));
     options.skin = parser.value(parser.skin);
     options.module = parser.value(parser.module);
     options.gallery = parser.isSet(parser.gallery);

@@ -11,6 +11,7 @@ public:
     QString screenshotDirectory; ///< empty: none wanted
     QString module; ///< empty: the one beside this program
     QString skin; ///< name or folder; empty: the one last chosen
+    QString checkedSkin; ///< folder of a skin to look through; empty: none
     bool printRecord = false;
     bool gallery = false; ///< the kit's widgets instead of the client
     int scalePercent = 0; ///< 100..300; 0: the one of the settings

@@ -33,6 +33,7 @@ QString DataDirectory::clientFile() const
     return configDirectory() + QStringLiteral("/client.ini");
 }
 
+QString DataDirectory::skinsDirectory() const { return m_home + QStringLiteral("/skins"); }
 QString DataDirectory::runDirectory() const { return m_home + QStringLiteral("/run"); }
 QString DataDirectory::lockFile() const { return runDirectory() + QStringLiteral("/client.lock"); }
 QString DataDirectory::startFile() const

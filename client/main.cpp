@@ -12,6 +12,7 @@
 #include "client/Reading.h"
 #include "client/SettingsModule.h"
 #include "client/SkinChoice.h"
+#include "client/SkinReport.h"
 #include "client/StartSettings.h"
 #include "client/TradeCore.h"
 #include "gallery/Gallery.h"
@@ -45,16 +46,18 @@ void ensureEncoding()
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
-// The skin that the user asks for, or the one that was last chosen. False if the former cannot be
-// used; the latter may be gone.
-bool loadSkin(const QString& asked, const QString& chosen)
+// The skin that the user asks for, or the one that was last chosen, unless that is gone. Returns
+// why it cannot be used.
+QString loadSkin(const QString& asked, const QString& chosen)
 {
     CorvelSkin::SkinLibrary* const library = CorvelSkin::SkinLibrary::instance();
-    if (!asked.isEmpty())
-        return library->load(asked);
-    if (library->names().contains(chosen))
-        library->load(chosen);
-    return true;
+    const QString skin = !asked.isEmpty() || library->names().contains(chosen)
+        ? (asked.isEmpty() ? chosen : asked)
+        : QString();
+    if (skin.isEmpty() || library->load(skin))
+        return QString();
+    return SkinReport::refusal(skin, library->problems()) + QLatin1Char('\n')
+        + Client::tr("已改用内置的浅色皮肤。");
 }
 
 // Chooses what to draw on. False when that takes a display and there is none.
@@ -156,7 +159,8 @@ int main(int argc, char** argv)
             failure = ExpectedHome::problem();
         if (options.printRecord)
             return failure.isEmpty() ? Reading::printRecord(directory) : Messages::fail(failure);
-        if (!chooseDisplay(!options.screenshotDirectory.isEmpty()))
+        if (!chooseDisplay(!options.screenshotDirectory.isEmpty()
+                           || !options.checkedSkin.isEmpty()))
             return Messages::fail(failure.isEmpty() ? Client::tr(
                                       "没有可用的显示。可用 --screenshots 将设置窗口保存为图片。")
                                                     : failure);
@@ -167,16 +171,23 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     scale.reset();
     settings.installTranslations(&application);
+    if (!options.checkedSkin.isEmpty())
+        return SkinReport::check(options.checkedSkin);
     if (!failure.isEmpty())
         return Messages::fail(failure);
 
     QApplication::setStyle(new SkinStyle);
+    CorvelSkin::SkinLibrary::instance()->addFolder(directory.skinsDirectory());
     SkinSwitcher skins;
     QObject::connect(&skins, &SkinSwitcher::chosen,
                      [&directory](const QString& name) { SkinChoice::keep(directory, name); });
-    if (!loadSkin(options.skin, SkinChoice::read(directory)))
-        Messages::tell(QMessageBox::Warning,
-                       Client::tr("无法使用皮肤 %1，已改用内置的浅色皮肤。").arg(options.skin));
+    QObject::connect(&skins, &SkinSwitcher::refused,
+                     [](const QString& title, const QVector<CorvelSkin::SkinProblem>& problems) {
+                         Messages::tell(QMessageBox::Warning, SkinReport::refusal(title, problems));
+                     });
+    const QString refusal = loadSkin(options.skin, SkinChoice::read(directory));
+    if (!refusal.isEmpty())
+        Messages::tell(QMessageBox::Warning, refusal);
     if (options.gallery)
         return runGallery(skins, options.screenshotDirectory);
     if (!options.screenshotDirectory.isEmpty())

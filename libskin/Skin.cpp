@@ -49,29 +49,36 @@ QString libraryFolder()
     return path.isEmpty() ? file.absolutePath() : QFileInfo(path).path();
 }
 
+QString tableFile(const QString& folder) { return folder + QStringLiteral("/skin.json"); }
+
 } // namespace
+
+SkinTable readTable(const QString& folder, QVector<SkinProblem>& problems)
+{
+    if (!QFileInfo(folder).isDir()) {
+        problems.append({folder, QString(), QStringLiteral("the folder is missing")});
+        return SkinTable();
+    }
+    const QString file = tableFile(folder);
+    QFile table(file);
+    if (QFileInfo(file).isDir() || !table.open(QIODevice::ReadOnly)) {
+        problems.append({file, QString(), QStringLiteral("the table cannot be opened")});
+        return SkinTable();
+    }
+    // A byte more than is allowed tells that there are too many.
+    return readSkinTable(table.read(maxTableBytes + 1), file, problems);
+}
 
 bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
               QVector<SkinProblem>& problems)
 {
     skin = substitute;
-    if (!QFileInfo(folder).isDir()) {
-        problems.append({folder, QString(), QStringLiteral("the folder is missing")});
-        return false;
-    }
-    const QString file = folder + QStringLiteral("/skin.json");
-    QFile table(file);
-    if (QFileInfo(file).isDir() || !table.open(QIODevice::ReadOnly)) {
-        problems.append({file, QString(), QStringLiteral("the table cannot be opened")});
-        return false;
-    }
-
     const int before = problems.size();
-    // A byte more than is allowed tells that there are too many.
-    const SkinTable read = readSkinTable(table.read(maxTableBytes + 1), file, problems);
+    const SkinTable read = readTable(folder, problems);
     if (problems.size() > before && problems.at(before).key.isEmpty())
         return false;
 
+    const QString file = tableFile(folder);
     Skin own{read.colours, read.fonts, {}, read.palette, read.disabledPalette};
     reportAbsent(SkinKeys::colours, read.colours, QLatin1String("colour"), file, problems);
     reportAbsent(SkinKeys::fonts, read.fonts, QLatin1String("font"), file, problems);
@@ -95,11 +102,13 @@ bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
     return true;
 }
 
+QString builtInFolder() { return QStringLiteral(":/libskin/skins/light"); }
+
 Skin builtInSkin()
 {
     Skin skin;
     QVector<SkinProblem> problems;
-    readSkin(QStringLiteral(":/libskin/skins/light"), Skin(), skin, problems);
+    readSkin(builtInFolder(), Skin(), skin, problems);
     Q_ASSERT(problems.isEmpty());
     return skin;
 }

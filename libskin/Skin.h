@@ -18,6 +18,9 @@ struct Skin {
     QHash<QString, QColor> disabledPalette;
 };
 
+/// Where the light skin is compiled in.
+QString builtInFolder();
+
 /// The light skin that is compiled in; always complete.
 Skin builtInSkin();
 
@@ -25,6 +28,10 @@ Skin builtInSkin();
 /// is a row of @p problems. False if not even the table could be read.
 bool readSkin(const QString& folder, const Skin& substitute, Skin& skin,
               QVector<SkinProblem>& problems);
+
+/// The table of the skin in @p folder; empty, and a row of @p problems without a key, if it cannot
+/// be read.
+SkinTable readTable(const QString& folder, QVector<SkinProblem>& problems);
 
 /// The folders that may hold skin folders, the ones beside this library first.
 QStringList skinSearchPaths();

@@ -3,6 +3,7 @@
 #include "libskin/ActiveSkin.h"
 #include "libskin/PaletteRoles.h"
 #include "libskin/Skin.h"
+#include "libskin/SkinCheck.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -19,17 +20,9 @@ const QString& builtInName()
     return name;
 }
 
-/// The folder of the shipped skin @p name; empty if there is none.
-QString shippedFolder(const QString& name)
+QString nameOfFolder(const QString& folder)
 {
-    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.')))
-        return QString();
-    for (const QString& path : skinSearchPaths()) {
-        const QString folder = path + QLatin1Char('/') + name;
-        if (QFileInfo(folder + QStringLiteral("/skin.json")).isFile())
-            return folder;
-    }
-    return QString();
+    return QFileInfo(QDir(folder).absolutePath()).fileName();
 }
 
 void repaintEverything()
@@ -45,6 +38,7 @@ void repaintEverything()
 
 SkinLibrary::SkinLibrary(ActiveSkin& active)
     : m_active(active)
+    , m_current(builtInName())
     , m_currentName(builtInName())
 {
 }
@@ -55,12 +49,29 @@ SkinLibrary* SkinLibrary::instance()
     return &library;
 }
 
+void SkinLibrary::addFolder(const QString& folder) { m_addedFolders << folder; }
+
+QStringList SkinLibrary::searchPaths() const { return skinSearchPaths() + m_addedFolders; }
+
+// Empty if there is no such skin.
+QString SkinLibrary::folderOf(const QString& name) const
+{
+    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.')))
+        return QString();
+    for (const QString& path : searchPaths()) {
+        const QString folder = path + QLatin1Char('/') + name;
+        if (QFileInfo(folder + QStringLiteral("/skin.json")).isFile())
+            return folder;
+    }
+    return QString();
+}
+
 QStringList SkinLibrary::names() const
 {
     QStringList names{builtInName()};
-    for (const QString& path : skinSearchPaths()) {
+    for (const QString& path : searchPaths()) {
         for (const QString& name : QDir(path).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            if (!shippedFolder(name).isEmpty())
+            if (!folderOf(name).isEmpty())
                 names << name;
         }
     }
@@ -69,12 +80,32 @@ QStringList SkinLibrary::names() const
     return names;
 }
 
+QString SkinLibrary::title(const QString& nameOrFolder, const QString& language) const
+{
+    const QString named = folderOf(nameOrFolder);
+    const QString folder = !named.isEmpty() ? named
+        : nameOrFolder == builtInName()     ? builtInFolder()
+                                            : nameOrFolder;
+    QVector<SkinProblem> problems;
+    const QString title = readTable(folder, problems).titles.value(language);
+    return title.isEmpty() ? nameOfFolder(folder) : title;
+}
+
+QVector<SkinProblem> SkinLibrary::check(const QString& folder) const
+{
+    QVector<SkinProblem> problems;
+    Skin skin;
+    if (readSkin(folder, m_active.builtIn(), skin, problems))
+        reportUnknown(folder, m_active.builtIn(), problems);
+    return problems;
+}
+
 bool SkinLibrary::load(const QString& nameOrFolder)
 {
     m_problems.clear();
     Skin skin = m_active.builtIn();
     bool loaded = true;
-    QString folder = shippedFolder(nameOrFolder);
+    QString folder = folderOf(nameOrFolder);
     if (folder.isEmpty() && nameOrFolder != builtInName()) {
         folder = nameOrFolder;
         if (folder.isEmpty()) {
@@ -85,8 +116,9 @@ bool SkinLibrary::load(const QString& nameOrFolder)
     if (!folder.isEmpty())
         loaded = readSkin(folder, m_active.builtIn(), skin, m_problems);
 
-    m_currentName = loaded && !folder.isEmpty() ? QFileInfo(QDir(folder).absolutePath()).fileName()
-                                                : builtInName();
+    const bool isBuiltIn = !loaded || folder.isEmpty();
+    m_current = isBuiltIn ? builtInName() : nameOrFolder;
+    m_currentName = isBuiltIn ? builtInName() : nameOfFolder(folder);
     for (const SkinProblem& problem : qAsConst(m_problems)) {
         qWarning("skin: %s: %s: %s; the built-in light skin serves instead",
                  qUtf8Printable(problem.file),
@@ -100,6 +132,8 @@ bool SkinLibrary::load(const QString& nameOrFolder)
 }
 
 QString SkinLibrary::currentName() const { return m_currentName; }
+
+QString SkinLibrary::current() const { return m_current; }
 
 QVector<SkinProblem> SkinLibrary::problems() const { return m_problems; }
 

@@ -27,8 +27,19 @@ public:
     /// The one library of the process; never null, never owned by the caller.
     static SkinLibrary* instance();
 
+    /// Looks for skins in the folders of @p folder too, after those that came with the library. The
+    /// folder need not be there yet.
+    void addFolder(const QString& folder);
+
     /// The skins that can be loaded by name, sorted; "light" is always among them.
     QStringList names() const;
+
+    /// What to call a skin of names(), or the one in a folder, in @p language ("zh_CN"): as its
+    /// table says, or else the name of its folder.
+    QString title(const QString& nameOrFolder, const QString& language) const;
+
+    /// All that is wrong with the skin in @p folder, keys that nobody asks for included.
+    QVector<SkinProblem> check(const QString& folder) const;
 
     /**
      * Makes the skin @p nameOrFolder the active one: a name of names(), or a folder.
@@ -42,6 +53,9 @@ public:
 
     /// The name of the active skin: its folder's name, "light" for the built-in one.
     QString currentName() const;
+
+    /// What the active skin was loaded by, a name or a folder; "light" for the built-in one.
+    QString current() const;
 
     /// What was wrong at the last load(); empty for a faultless skin.
     QVector<SkinProblem> problems() const;
@@ -58,8 +72,12 @@ Q_SIGNALS:
 
 private:
     explicit SkinLibrary(ActiveSkin& active);
+    QStringList searchPaths() const;
+    QString folderOf(const QString& name) const;
 
     ActiveSkin& m_active;
+    QStringList m_addedFolders;
+    QString m_current;
     QString m_currentName;
     QVector<SkinProblem> m_problems;
 };

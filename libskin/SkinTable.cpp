@@ -41,6 +41,7 @@ public:
 private:
     template <typename Take> void section(const QJsonObject& table, QLatin1String name, Take take);
     QHash<QString, QColor> paletteSection(const QJsonObject& table, QLatin1String name);
+    QHash<QString, QString> titles(const QJsonObject& table);
     bool colour(const QString& key, const QJsonValue& value, QColor& result);
     bool font(const QString& key, const QJsonValue& value, FontEntry& result);
     bool image(const QString& key, const QJsonValue& value, ImageEntry& result);
@@ -83,6 +84,23 @@ QHash<QString, QColor> Reader::paletteSection(const QJsonObject& table, QLatin1S
         else if (colour(key, value, read))
             result.insert(key, read);
     });
+    return result;
+}
+
+QHash<QString, QString> Reader::titles(const QJsonObject& table)
+{
+    QHash<QString, QString> result;
+    const QLatin1String key("name");
+    const QJsonValue value = table.value(key);
+    const QJsonObject names = value.toObject();
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        if (name->toString().isEmpty())
+            refuse(key, QStringLiteral("the name in a language must be a text"));
+        else
+            result.insert(name.key(), name->toString());
+    }
+    if (!value.isUndefined() && !value.isObject())
+        refuse(key, QStringLiteral("the name must be an object of languages"));
     return result;
 }
 
@@ -203,6 +221,7 @@ SkinTable Reader::read(const QByteArray& bytes)
     }
 
     const QJsonObject table = document.object();
+    result.titles = titles(table);
     section(table, QLatin1String("colours"), [&](const QString& key, const QJsonValue& value) {
         QColor entry;
         if (colour(key, value, entry))

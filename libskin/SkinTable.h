@@ -36,6 +36,7 @@ constexpr int maxTableBytes = 1 << 20;
 
 /// What a skin's table says, before any image is read.
 struct SkinTable {
+    QHash<QString, QString> titles; ///< the skin's name to show, by language ("zh_CN")
     QHash<QString, QColor> colours;
     QHash<QString, FontEntry> fonts;
     QHash<QString, ImageEntry> images;

@@ -665,8 +665,8 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>There is no display. Use --screenshots to save the settings window as images.</translation>
     </message>
     <message>
-        <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
-        <translation>The skin %1 cannot be used. The built-in light skin is used instead.</translation>
+        <source>已改用内置的浅色皮肤。</source>
+        <translation>The built-in light skin serves instead.</translation>
     </message>
 </context>
 <context>
@@ -730,6 +730,14 @@ Change the values marked red until they turn green, then press OK again.</transl
     <message>
         <source>--scale 需要 100 到 300 的整数</source>
         <translation>--scale needs a whole number from 100 to 300</translation>
+    </message>
+    <message>
+        <source>列出皮肤的所有问题（文件、键、原因）后退出，有问题时状态为 1。</source>
+        <translation>List all that is wrong with a skin (file, key, reason) and quit, with status 1 if there is anything.</translation>
+    </message>
+    <message>
+        <source>--check-skin 需要一个目录</source>
+        <translation>--check-skin needs a directory</translation>
     </message>
 </context>
 <context>
@@ -2098,6 +2106,145 @@ A copy of the current ones is kept.</translation>
     <message>
         <source>设置</source>
         <translation>Settings</translation>
+    </message>
+</context>
+<context>
+    <name>SkinReport</name>
+    <message>
+        <source>文件夹不存在</source>
+        <translation>the folder is missing</translation>
+    </message>
+    <message>
+        <source>没有指定皮肤</source>
+        <translation>no skin was named</translation>
+    </message>
+    <message>
+        <source>无法打开皮肤表</source>
+        <translation>the table cannot be opened</translation>
+    </message>
+    <message>
+        <source>皮肤表大于 %1 字节</source>
+        <translation>the table is larger than %1 bytes</translation>
+    </message>
+    <message>
+        <source>不是 JSON 表：%1，位于第 %2 字节</source>
+        <translation>not a JSON table: %1, at byte %2</translation>
+    </message>
+    <message>
+        <source>皮肤表必须是由各节组成的对象</source>
+        <translation>the table must be an object of sections</translation>
+    </message>
+    <message>
+        <source>该节必须是由键组成的对象</source>
+        <translation>the section must be an object of keys</translation>
+    </message>
+    <message>
+        <source>缺少该键（%1）</source>
+        <translation>the %1 is absent</translation>
+    </message>
+    <message>
+        <source>调色板没有这个角色</source>
+        <translation>no such role of the palette</translation>
+    </message>
+    <message>
+        <source>每种语言的名称必须是文本</source>
+        <translation>the name in a language must be a text</translation>
+    </message>
+    <message>
+        <source>名称必须是由各语言组成的对象</source>
+        <translation>the name must be an object of languages</translation>
+    </message>
+    <message>
+        <source>颜色必须是文本 #RRGGBB 或 #AARRGGBB</source>
+        <translation>a colour must be a text #RRGGBB or #AARRGGBB</translation>
+    </message>
+    <message>
+        <source>“%1”必须是 1 到 %2 的整数</source>
+        <translation>&quot;%1&quot; must be a whole number from 1 to %2</translation>
+    </message>
+    <message>
+        <source>字体必须是对象</source>
+        <translation>a font must be an object</translation>
+    </message>
+    <message>
+        <source>每个字体族必须是文本</source>
+        <translation>every family must be a text</translation>
+    </message>
+    <message>
+        <source>“families”至少要列出一个字体族</source>
+        <translation>&quot;families&quot; must list at least one family</translation>
+    </message>
+    <message>
+        <source>“weight”必须是 100、200……或 900</source>
+        <translation>&quot;weight&quot; must be 100, 200, ... or 900</translation>
+    </message>
+    <message>
+        <source>图像必须是对象</source>
+        <translation>an image must be an object</translation>
+    </message>
+    <message>
+        <source>“file”必须指明图像文件</source>
+        <translation>&quot;file&quot; must name the image</translation>
+    </message>
+    <message>
+        <source>“file”必须位于皮肤的文件夹内</source>
+        <translation>&quot;file&quot; must lie inside the skin&apos;s folder</translation>
+    </message>
+    <message>
+        <source>“size”必须是 [宽, 高]</source>
+        <translation>&quot;size&quot; must be [width, height]</translation>
+    </message>
+    <message>
+        <source>%1 帧不能均分宽度 %2</source>
+        <translation>%1 frames do not divide the width %2</translation>
+    </message>
+    <message>
+        <source>%1 帧不能均分位图的 %2 像素</source>
+        <translation>%1 frames do not divide the bitmap&apos;s %2 pixels</translation>
+    </message>
+    <message>
+        <source>无法读取文件</source>
+        <translation>the file cannot be read</translation>
+    </message>
+    <message>
+        <source>文件不存在</source>
+        <translation>the file is missing</translation>
+    </message>
+    <message>
+        <source>文件大于 %1 字节</source>
+        <translation>the file is larger than %1 bytes</translation>
+    </message>
+    <message>
+        <source>位图的边长大于 %1 像素</source>
+        <translation>the bitmap is larger than %1 pixels a side</translation>
+    </message>
+    <message>
+        <source>不是 PNG 位图</source>
+        <translation>not a PNG bitmap</translation>
+    </message>
+    <message>
+        <source>不是 SVG 图形</source>
+        <translation>not an SVG drawing</translation>
+    </message>
+    <message>
+        <source>没有这一节</source>
+        <translation>no such section</translation>
+    </message>
+    <message>
+        <source>没有这个键</source>
+        <translation>no such key</translation>
+    </message>
+    <message>
+        <source>没有字段“%1”</source>
+        <translation>no such field &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>无法使用皮肤 %1：</source>
+        <translation>The skin %1 cannot be used:</translation>
+    </message>
+    <message>
+        <source>皮肤 %1 没有问题。</source>
+        <translation>Nothing is wrong with the skin %1.</translation>
     </message>
 </context>
 </TS>

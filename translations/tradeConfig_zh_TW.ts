@@ -665,8 +665,8 @@
         <translation>沒有可用的顯示器。可用 --screenshots 將設定視窗儲存為圖片。</translation>
     </message>
     <message>
-        <source>无法使用皮肤 %1，已改用内置的浅色皮肤。</source>
-        <translation>無法使用外觀 %1，已改用內建的淺色外觀。</translation>
+        <source>已改用内置的浅色皮肤。</source>
+        <translation>已改用內建的淺色外觀。</translation>
     </message>
 </context>
 <context>
@@ -730,6 +730,14 @@
     <message>
         <source>--scale 需要 100 到 300 的整数</source>
         <translation>--scale 需要 100 到 300 的整數</translation>
+    </message>
+    <message>
+        <source>列出皮肤的所有问题（文件、键、原因）后退出，有问题时状态为 1。</source>
+        <translation>列出外觀的所有問題（檔案、鍵、原因）後結束，有問題時狀態為 1。</translation>
+    </message>
+    <message>
+        <source>--check-skin 需要一个目录</source>
+        <translation>--check-skin 需要一個目錄</translation>
     </message>
 </context>
 <context>
@@ -2093,6 +2101,145 @@
     <message>
         <source>设置</source>
         <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>SkinReport</name>
+    <message>
+        <source>文件夹不存在</source>
+        <translation>資料夾不存在</translation>
+    </message>
+    <message>
+        <source>没有指定皮肤</source>
+        <translation>沒有指定外觀</translation>
+    </message>
+    <message>
+        <source>无法打开皮肤表</source>
+        <translation>無法開啟外觀表</translation>
+    </message>
+    <message>
+        <source>皮肤表大于 %1 字节</source>
+        <translation>外觀表大於 %1 位元組</translation>
+    </message>
+    <message>
+        <source>不是 JSON 表：%1，位于第 %2 字节</source>
+        <translation>不是 JSON 表：%1，位於第 %2 位元組</translation>
+    </message>
+    <message>
+        <source>皮肤表必须是由各节组成的对象</source>
+        <translation>外觀表必須是由各節組成的物件</translation>
+    </message>
+    <message>
+        <source>该节必须是由键组成的对象</source>
+        <translation>該節必須是由鍵組成的物件</translation>
+    </message>
+    <message>
+        <source>缺少该键（%1）</source>
+        <translation>缺少該鍵（%1）</translation>
+    </message>
+    <message>
+        <source>调色板没有这个角色</source>
+        <translation>調色盤沒有這個角色</translation>
+    </message>
+    <message>
+        <source>每种语言的名称必须是文本</source>
+        <translation>每種語言的名稱必須是文字</translation>
+    </message>
+    <message>
+        <source>名称必须是由各语言组成的对象</source>
+        <translation>名稱必須是由各語言組成的物件</translation>
+    </message>
+    <message>
+        <source>颜色必须是文本 #RRGGBB 或 #AARRGGBB</source>
+        <translation>顏色必須是文字 #RRGGBB 或 #AARRGGBB</translation>
+    </message>
+    <message>
+        <source>“%1”必须是 1 到 %2 的整数</source>
+        <translation>「%1」必須是 1 到 %2 的整數</translation>
+    </message>
+    <message>
+        <source>字体必须是对象</source>
+        <translation>字型必須是物件</translation>
+    </message>
+    <message>
+        <source>每个字体族必须是文本</source>
+        <translation>每個字型家族必須是文字</translation>
+    </message>
+    <message>
+        <source>“families”至少要列出一个字体族</source>
+        <translation>「families」至少要列出一個字型家族</translation>
+    </message>
+    <message>
+        <source>“weight”必须是 100、200……或 900</source>
+        <translation>「weight」必須是 100、200……或 900</translation>
+    </message>
+    <message>
+        <source>图像必须是对象</source>
+        <translation>圖像必須是物件</translation>
+    </message>
+    <message>
+        <source>“file”必须指明图像文件</source>
+        <translation>「file」必須指明圖像檔案</translation>
+    </message>
+    <message>
+        <source>“file”必须位于皮肤的文件夹内</source>
+        <translation>「file」必須位於外觀的資料夾內</translation>
+    </message>
+    <message>
+        <source>“size”必须是 [宽, 高]</source>
+        <translation>「size」必須是 [寬, 高]</translation>
+    </message>
+    <message>
+        <source>%1 帧不能均分宽度 %2</source>
+        <translation>%1 格不能均分寬度 %2</translation>
+    </message>
+    <message>
+        <source>%1 帧不能均分位图的 %2 像素</source>
+        <translation>%1 格不能均分點陣圖的 %2 像素</translation>
+    </message>
+    <message>
+        <source>无法读取文件</source>
+        <translation>無法讀取檔案</translation>
+    </message>
+    <message>
+        <source>文件不存在</source>
+        <translation>檔案不存在</translation>
+    </message>
+    <message>
+        <source>文件大于 %1 字节</source>
+        <translation>檔案大於 %1 位元組</translation>
+    </message>
+    <message>
+        <source>位图的边长大于 %1 像素</source>
+        <translation>點陣圖的邊長大於 %1 像素</translation>
+    </message>
+    <message>
+        <source>不是 PNG 位图</source>
+        <translation>不是 PNG 點陣圖</translation>
+    </message>
+    <message>
+        <source>不是 SVG 图形</source>
+        <translation>不是 SVG 圖形</translation>
+    </message>
+    <message>
+        <source>没有这一节</source>
+        <translation>沒有這一節</translation>
+    </message>
+    <message>
+        <source>没有这个键</source>
+        <translation>沒有這個鍵</translation>
+    </message>
+    <message>
+        <source>没有字段“%1”</source>
+        <translation>沒有欄位「%1」</translation>
+    </message>
+    <message>
+        <source>无法使用皮肤 %1：</source>
+        <translation>無法使用外觀 %1：</translation>
+    </message>
+    <message>
+        <source>皮肤 %1 没有问题。</source>
+        <translation>外觀 %1 沒有問題。</translation>
     </message>
 </context>
 </TS>

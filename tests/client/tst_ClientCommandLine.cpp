@@ -51,6 +51,8 @@ private Q_SLOTS:
     void galleryScreenshots();
     void skinThatCannotBeUsed_data();
     void skinThatCannotBeUsed();
+    void skinOfTheUsersOwn();
+    void checksASkin();
 
     void secondInstance();
     void secondInstanceWithoutAnAnswer();
@@ -418,9 +420,53 @@ void tst_ClientCommandLine::skinThatCannotBeUsed()
     const auto substitute = firstPage(skin, QStringLiteral("substitute"));
     QVERIFY2(substitute.second.contains(("无法使用皮肤 " + skin.toUtf8()).constData()),
              substitute.second.constData());
+    const QByteArray reason = skin.toUtf8()
+        + (hasTable ? QByteArray("/skin.json: 不是 JSON 表") : QByteArray(": 文件夹不存在"));
+    QVERIFY2(substitute.second.contains(reason), substitute.second.constData());
     const auto light = firstPage(QStringLiteral("light"), QStringLiteral("light"));
     QVERIFY(!light.first.isNull());
     QCOMPARE(substitute.first, light.first);
+}
+
+void tst_ClientCommandLine::skinOfTheUsersOwn()
+{
+    writeFile(data(QStringLiteral("skins/mine/skin.json")),
+              R"({"palette": {"Window": "#102030"}})");
+    const Outcome outcome
+        = run({QStringLiteral("--skin"), QStringLiteral("mine"), QStringLiteral("--screenshots"),
+               m_home->filePath(QStringLiteral("pages"))});
+    QVERIFY2(!outcome.errors.contains("无法使用皮肤"), outcome.errors.constData());
+    const QImage page(QString::fromUtf8(outcome.output.split('\n').first()));
+    QCOMPARE(page.pixelColor(page.width() - 3, page.height() - 3), QColor(0x10, 0x20, 0x30));
+}
+
+void tst_ClientCommandLine::checksASkin()
+{
+    const auto check = [this](const QString& folder) {
+        return run({QStringLiteral("--check-skin"), folder});
+    };
+    const QString skin = m_home->filePath(QStringLiteral("skin"));
+    const Outcome missing = check(skin);
+    QCOMPARE(missing.status, 1);
+    QCOMPARE(missing.output, skin.toUtf8() + ": 文件夹不存在\n");
+
+    writeFile(skin + QStringLiteral("/skin.json"),
+              R"({"colours": {"PopupClient": "blue", "PopupCleint": "#112233"}, "colors": {}})");
+    const Outcome faulty = check(skin);
+    QCOMPARE(faulty.status, 1);
+    const QByteArray table = skin.toUtf8() + "/skin.json: ";
+    const QList<QByteArray> lines = faulty.output.split('\n');
+    for (const char* const line :
+         {"PopupClient: 颜色必须是文本 #RRGGBB 或 #AARRGGBB", "PopupCleint: 没有这个键",
+          "colors: 没有这一节", "logo: 缺少该键（image）"})
+        QVERIFY2(lines.contains(table + line), faulty.output.constData());
+    QVERIFY2(QDir(m_home->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                 == QStringList{QStringLiteral("skin")},
+             "looking leaves nothing behind");
+
+    const Outcome clean = check(QFileInfo(QStringLiteral(CLIENT_PROGRAM)).path()
+                                + QStringLiteral("/../share/tradeConfig/skins/dark"));
+    QVERIFY2(clean.status == 0, clean.output.constData());
 }
 
 void tst_ClientCommandLine::screenshotsIntoAFile()
