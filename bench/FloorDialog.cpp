@@ -368,7 +368,8 @@ void FloorDialog::guideKeyboardAndWheel()
     setTabOrder(ui.pushButton_cancle, ui.pushButton_confirm);
     QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::NextChild)
         + QKeySequence::keyBindings(QKeySequence::PreviousChild);
-    keys << QKeySequence(Qt::CTRL + Qt::Key_PageDown) << QKeySequence(Qt::CTRL + Qt::Key_PageUp);
+    keys << QKeySequence(int(Qt::CTRL) + Qt::Key_PageDown)
+         << QKeySequence(int(Qt::CTRL) + Qt::Key_PageUp);
     for (const QKeySequence& key : qAsConst(keys)) {
         auto* const shortcut = new QShortcut(key, this);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);

@@ -386,7 +386,7 @@ void tst_AccessibleNames::windowAndGroups()
     QFETCH(QString, window);
     QFETCH(QStringList, groups);
     QFETCH(QStringList, buttons);
-    const Language language(QLatin1String(QTest::currentDataTag()));
+    const Language language{QLatin1String(QTest::currentDataTag())};
     QVERIFY(language.chosen);
     const TestDialog dialog;
     QCOMPARE(nameOf(of(dialog.get())), window);

@@ -191,7 +191,7 @@ void tst_Unload::goOn()
         auto* const edit = new QLineEdit(&window);
         edit->setFont(QFont(latin("Arial"), 11));
         edit->setStyleSheet(latin(sheet));
-        edit->setText(QKeySequence(Qt::CTRL + Qt::Key_F9).toString(QKeySequence::NativeText));
+        edit->setText(QKeySequence(int(Qt::CTRL) + Qt::Key_F9).toString(QKeySequence::NativeText));
     }
     auto* const table = new QTableWidget(3, 3, &window);
     table->horizontalHeader()->setStyleSheet(latin("QHeaderView::section{color:black}"));
