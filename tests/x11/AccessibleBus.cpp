@@ -23,9 +23,10 @@ QDBusMessage callOn(const QDBusConnection& connection, const char* service, cons
     return connection.call(message, QDBus::Block, patience);
 }
 
-QString keyOf(const AccessibleReference& reference)
+// An event as it is noted.
+QString line(const QString& what, int value, const QString& service, const QString& path)
 {
-    return reference.service + reference.path.path();
+    return QStringLiteral("%1 %2 %3 %4").arg(what).arg(value).arg(service, path);
 }
 
 } // namespace
@@ -189,10 +190,16 @@ bool AccessibleBus::start()
                                                  latin("assistive technology"));
 
     // Programs send what somebody has asked for.
-    callOn(m_connection, registry, "/org/a11y/atspi/registry", registry, "RegisterEvent",
-           {latin("object:property-change:accessible-description")});
-    return m_connection.connect(QString(), QString(), latin("org.a11y.atspi.Event.Object"),
-                                latin("PropertyChange"), this, SLOT(propertyChanged(QDBusMessage)));
+    for (const char* const event :
+         {"object:property-change:accessible-description", "object:state-changed:showing"})
+        callOn(m_connection, registry, "/org/a11y/atspi/registry", registry, "RegisterEvent",
+               {latin(event)});
+    for (const char* const event : {"PropertyChange", "StateChanged"}) {
+        if (!m_connection.connect(QString(), QString(), latin("org.a11y.atspi.Event.Object"),
+                                  latin(event), this, SLOT(note(QDBusMessage))))
+            return false;
+    }
+    return true;
 }
 
 AccessibleObject AccessibleBus::program(const QString& name) const
@@ -207,11 +214,19 @@ AccessibleObject AccessibleBus::program(const QString& name) const
 
 int AccessibleBus::descriptionChanges(const AccessibleObject& object) const
 {
-    return m_descriptionChanges.value(keyOf(object.reference()));
+    const AccessibleReference& it = object.reference();
+    return m_events.count(line(latin("accessible-description"), 0, it.service, it.path.path()));
 }
 
-void AccessibleBus::propertyChanged(const QDBusMessage& event)
+int AccessibleBus::appearances(const AccessibleObject& object) const
 {
-    if (event.arguments().value(0).toString() == latin("accessible-description"))
-        ++m_descriptionChanges[keyOf({event.service(), QDBusObjectPath(event.path())})];
+    const AccessibleReference& it = object.reference();
+    return m_events.count(line(latin("showing"), 1, it.service, it.path.path()));
+}
+
+void AccessibleBus::note(const QDBusMessage& event)
+{
+    const QVariantList arguments = event.arguments();
+    m_events << line(arguments.value(0).toString(), arguments.value(1).toInt(), event.service(),
+                     event.path());
 }

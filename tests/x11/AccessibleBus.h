@@ -3,8 +3,8 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QHash>
 #include <QProcess>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
 
@@ -65,7 +65,7 @@ private:
  * A session bus of its own with the bus of assistive technology beside it, on which programs are
  * told that somebody listens.
  *
- * Events are counted by the object that they are about. Ends both buses in the end.
+ * Some events are noted, each with the object that it is about. Ends both buses in the end.
  */
 class AccessibleBus : public QObject {
     Q_OBJECT
@@ -86,12 +86,15 @@ public:
     /// How often the description of @p object was said to have changed.
     int descriptionChanges(const AccessibleObject& object) const;
 
+    /// How often @p object was said to have come into sight.
+    int appearances(const AccessibleObject& object) const;
+
 private Q_SLOTS:
-    void propertyChanged(const QDBusMessage& event);
+    void note(const QDBusMessage& event);
 
 private:
     QProcess m_daemon;
     QString m_sessionAddress;
     QDBusConnection m_connection;
-    QHash<QString, int> m_descriptionChanges;
+    QStringList m_events; ///< what happened, and to which object
 };

@@ -110,32 +110,46 @@ class tst_ReaderOnScreen : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void changesSettings();
+    void hearsWhyAQuantityIsRefused();
+
+private:
+    void start(QProcess& program, const char* file) const;
+
+    const QTemporaryDir m_home;
+    AccessibleBus m_bus;
 };
+
+void tst_ReaderOnScreen::initTestCase()
+{
+    // Both buses keep their files there too.
+    qputenv("HOME", m_home.path().toLocal8Bit());
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toLocal8Bit());
+    qputenv("GSETTINGS_BACKEND", "memory");
+    QVERIFY(m_bus.start());
+}
+
+void tst_ReaderOnScreen::start(QProcess& program, const char* file) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(text("QT_QPA_PLATFORM"), text("xcb"));
+    environment.insert(text("DBUS_SESSION_BUS_ADDRESS"), m_bus.sessionAddress());
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(text(file), QStringList());
+}
 
 void tst_ReaderOnScreen::changesSettings()
 {
-    const QTemporaryDir home;
-    // Both buses keep their files there too.
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
-    qputenv("GSETTINGS_BACKEND", "memory");
-    AccessibleBus bus;
-    QVERIFY(bus.start());
-
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(text("QT_QPA_PLATFORM"), text("xcb"));
-    environment.insert(text("DBUS_SESSION_BUS_ADDRESS"), bus.sessionAddress());
     QProcess client;
-    client.setProcessEnvironment(environment);
-    client.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    client.start(text(CLIENT_PROGRAM), QStringList());
+    start(client, CLIENT_PROGRAM);
 
     AccessibleObject program;
     const auto found = [&program](const char* role, const char* name) {
         return program.find(text(role), text(name));
     };
-    QTRY_VERIFY_WITH_TIMEOUT((program = bus.program(text("tradeclient"))).isKnown(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT((program = m_bus.program(text("tradeclient"))).isKnown(), patience);
     QTRY_VERIFY_WITH_TIMEOUT(found("push button", "设置").isKnown(), patience);
     QVERIFY(found("push button", "设置").press());
     AccessibleObject dialog;
@@ -175,17 +189,17 @@ void tst_ReaderOnScreen::changesSettings()
         = dialog.find(text("table"), text("普通交易快捷键")).find(text("text"), text("买入股票"));
     cell.grabFocus();
     QTRY_VERIFY_WITH_TIMEOUT(cell.is(AccessibleObject::Focused), patience);
-    QCOMPARE(bus.descriptionChanges(cell), 0);
+    QCOMPARE(m_bus.descriptionChanges(cell), 0);
     press({text("ctrl+s")});
-    QTRY_COMPARE_WITH_TIMEOUT(bus.descriptionChanges(cell), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bus.descriptionChanges(cell), 1, patience);
     QCOMPARE(cell.description(), text("与卖出股票重复"));
     press({text("ctrl+alt+j")});
-    QTRY_COMPARE_WITH_TIMEOUT(bus.descriptionChanges(cell), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bus.descriptionChanges(cell), 2, patience);
     QCOMPARE(cell.description(), text("正常"));
     QCOMPARE(cell.text(), text("Ctrl+Alt+J"));
 
     const QString record
-        = home.filePath(text(".com.kivotrade.tradeclient/config/trade_parameters.json"));
+        = m_home.filePath(text(".com.kivotrade.tradeclient/config/trade_parameters.json"));
     QVERIFY(!QFile::exists(record));
     QVERIFY(dialog.find(text("push button"), text("确定")).press());
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(record), patience);
@@ -197,6 +211,40 @@ void tst_ReaderOnScreen::changesSettings()
 
     client.terminate();
     QVERIFY(client.waitForFinished(patience));
+}
+
+// On a page that the client does not list.
+void tst_ReaderOnScreen::hearsWhyAQuantityIsRefused()
+{
+    QProcess host;
+    start(host, SPLITTING_HOST);
+    AccessibleObject program;
+    QTRY_VERIFY_WITH_TIMEOUT((program = m_bus.program(text("splittingHost"))).isKnown(), patience);
+    AccessibleObject field;
+    QTRY_VERIFY_WITH_TIMEOUT((field = program.find(text("text"), text("单笔下限"))).isKnown(),
+                             patience);
+    // The tip, which comes into sight for a moment only.
+    AccessibleObject tip;
+    for (const AccessibleObject& part :
+         program.find(text("filler"), text("交易客户端设置")).children()) {
+        if (part.role() == QLatin1String("alert message"))
+            tip = part;
+    }
+    QVERIFY(tip.isKnown());
+    QVERIFY(!tip.is(AccessibleObject::Showing));
+    QCOMPARE(m_bus.appearances(tip), 0);
+
+    field.grabFocus();
+    QTRY_VERIFY_WITH_TIMEOUT(field.is(AccessibleObject::Focused), patience);
+    press({text("ctrl+a"), text("5"), text("0"), text("Tab")});
+    QTRY_COMPARE_WITH_TIMEOUT(m_bus.appearances(tip), 1, patience);
+    QCOMPARE(tip.name(), text("不能小于100股"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_bus.descriptionChanges(field), 1, patience);
+    QCOMPARE(field.description(), text("不能小于100股"));
+    QCOMPARE(field.text(), text("50"));
+
+    host.terminate();
+    QVERIFY(host.waitForFinished(patience));
 }
 
 TRADECONFIG_TEST_MAIN(tst_ReaderOnScreen)
