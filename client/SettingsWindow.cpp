@@ -30,6 +30,18 @@ void SettingsWindow::closeEvent(QCloseEvent* event)
         Q_EMIT closed();
 }
 
+bool SettingsWindow::focusNextPrevChild(bool next)
+{
+    if (!QScrollArea::focusNextPrevChild(next))
+        return false;
+    // The base class is content when it shows where a text cursor would stand.
+    constexpr int margin = 8;
+    const QWidget* const stop = focusWidget();
+    const QPoint middle = stop->mapTo(widget(), stop->rect().center());
+    ensureVisible(middle.x(), middle.y(), stop->width() / 2 + margin, stop->height() / 2 + margin);
+    return true;
+}
+
 void SettingsWindow::keyPressEvent(QKeyEvent* event)
 {
     // A key still held after it closed a list or a box must not take the window along.

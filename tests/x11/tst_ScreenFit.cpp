@@ -17,6 +17,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QTimer>
 
 /// On a screen of the size, and at the scale, that the test is started with.
 class tst_ScreenFit : public QObject {
@@ -26,11 +27,16 @@ private Q_SLOTS:
     void initTestCase();
     void clientWindow();
     void settings();
+    void tabBringsEveryStopIntoSight_data();
+    void tabBringsEveryStopIntoSight();
+    void openLists();
     void restartQuestion();
     void refusal();
     void storingFailure();
+    void about();
 
 private:
+    void closeSettings();
     static QString outside(const QWidget& window);
     static QString buttonsOutside(const QWidget& box);
     static QString outOfReach(QScrollArea& area, QWidget& control);
@@ -40,6 +46,12 @@ private:
     SettingsModule m_module;
     MainWindow m_window{m_module, m_core, m_directory};
 };
+
+void tst_ScreenFit::closeSettings()
+{
+    m_window.settingsWindow()->close();
+    QTRY_VERIFY(!m_window.settingsWindow());
+}
 
 /// Where @p window reaches beyond the screen; empty if it does not.
 QString tst_ScreenFit::outside(const QWidget& window)
@@ -119,7 +131,77 @@ void tst_ScreenFit::settings()
         }
     }
     QVERIFY2(count > 20, qPrintable(QString::number(count)));
-    settings.close();
+    closeSettings();
+}
+
+void tst_ScreenFit::tabBringsEveryStopIntoSight_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("stops");
+    QTest::newRow("basic settings") << 0 << 0 << 6;
+    QTest::newRow("interface") << 0 << 2 << 3;
+    QTest::newRow("trade defaults") << 1 << 0 << 9;
+    QTest::newRow("prompts") << 1 << 1 << 5;
+    QTest::newRow("hotkeys") << 2 << 0 << 15;
+}
+
+// Who works by keyboard cannot turn the scroll bars.
+void tst_ScreenFit::tabBringsEveryStopIntoSight()
+{
+    QFETCH(const int, group);
+    QFETCH(const int, page);
+    QFETCH(const int, stops);
+    QTRY_VERIFY(m_window.isActiveWindow()); // again
+    m_window.openSettings();
+    SettingsWindow& settings = *m_window.settingsWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&settings));
+    const auto stack = [&settings](const char* name) {
+        return settings.findChild<QStackedWidget*>(QLatin1String(name));
+    };
+    const char* const groups[]
+        = {"stackedWidget_system", "stackedWidget_trade", "stackedWidget_shortcut"};
+    stack("stackedWidget")->setCurrentIndex(group);
+    stack(groups[group])->setCurrentIndex(page);
+    auto* const last = settings.findChild<QWidget*>(QStringLiteral("pushButton_confirm"));
+    last->setFocus();
+    QTRY_COMPARE(QApplication::focusWidget(), last);
+    int count = 0;
+    do {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        const QWidget& stop = *QApplication::focusWidget();
+        QCOMPARE(stop.visibleRegion().boundingRect(), stop.rect());
+        ++count;
+    } while (QApplication::focusWidget() != last);
+    QCOMPARE(count, stops);
+    closeSettings();
+}
+
+void tst_ScreenFit::openLists()
+{
+    m_window.openSettings();
+    SettingsWindow& settings = *m_window.settingsWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&settings));
+    int count = 0;
+    for (const int group : {0, 1}) {
+        settings.findChild<QStackedWidget*>(QStringLiteral("stackedWidget"))
+            ->setCurrentIndex(group);
+        for (auto* const combo : settings.widget()->findChildren<QComboBox*>()) {
+            if (!combo->isVisible())
+                continue;
+            combo->setFocus();
+            settings.ensureWidgetVisible(combo);
+            combo->showPopup();
+            const QWidget* const list = combo->view()->window();
+            QTRY_VERIFY(list->isVisible());
+            QCOMPARE(outside(*list), QString());
+            combo->hidePopup();
+            ++count;
+        }
+    }
+    QCOMPARE(count, 9);
+    closeSettings();
 }
 
 void tst_ScreenFit::restartQuestion()
@@ -154,6 +236,22 @@ void tst_ScreenFit::storingFailure()
     box.show();
     QVERIFY(QTest::qWaitForWindowExposed(&box));
     QTRY_COMPARE(buttonsOutside(box), QString());
+}
+
+void tst_ScreenFit::about()
+{
+    // Modal: it runs an event loop of its own.
+    QString wrong = QStringLiteral("no box");
+    QTimer::singleShot(0, this, [&wrong] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        if (QTest::qWaitForWindowExposed(box))
+            wrong = buttonsOutside(*box);
+        box->close();
+    });
+    m_window.showAbout();
+    QCOMPARE(wrong, QString());
 }
 
 TRADECONFIG_TEST_MAIN(tst_ScreenFit)
