@@ -45,10 +45,16 @@ bool SettingsWindow::focusNextPrevChild(bool next)
 void SettingsWindow::keyPressEvent(QKeyEvent* event)
 {
     // A key still held after it closed a list or a box must not take the window along.
-    if (event->matches(QKeySequence::Cancel) && !event->isAutoRepeat())
+    if (event->matches(QKeySequence::Cancel) && m_heldKeys.isPressedHere(*event))
         close();
     else
         QScrollArea::keyPressEvent(event);
+}
+
+void SettingsWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    m_heldKeys.noteRelease(*event);
+    QScrollArea::keyReleaseEvent(event);
 }
 
 void SettingsWindow::showEvent(QShowEvent* event)

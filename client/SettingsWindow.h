@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tradeConfig/HeldKeys.h"
+
 #include <QScrollArea>
 
 /**
@@ -24,9 +26,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     QSize m_formSize;
+    HeldKeys m_heldKeys;
 };

@@ -35,7 +35,8 @@ struct House {
 };
 
 constexpr const char* skinService = "SkinExport SkinLibrary SkinTable";
-constexpr const char* moduleForHosts = "ITrade ModuleEntry PackedText platform/HostPlatform skin/*";
+constexpr const char* moduleForClient
+    = "HeldKeys ITrade ModuleEntry PackedText platform/HostPlatform skin/*";
 constexpr const char* kitForHosts
     = "CaptionBar ImageButton MarkShade MessageBox NavWidget PageStack SwitchEx "
       "TableLineEdit TipLabel WrapLabel skin/*";
@@ -92,7 +93,7 @@ const House& house()
             {"client", "appearance", "*"},
             {"client", "gallery", "Gallery"},
             {"client", "libskin", skinService},
-            {"client", "tradeConfig", moduleForHosts},
+            {"client", "tradeConfig", moduleForClient},
             {"gallery", "appearance", "*"},
             {"gallery", "tradeConfig", kitForHosts},
             {"appearance", "libskin", skinService},
