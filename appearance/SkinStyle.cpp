@@ -1,8 +1,10 @@
 #include "appearance/SkinStyle.h"
 
+#include "appearance/SkinIcon.h"
 #include "tradeConfig/ReadableColour.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -83,6 +85,27 @@ double ascentOf(const QString& text, const QFont& font)
     const QTextLine line = layout.createLine();
     layout.endLayout();
     return line.ascent();
+}
+
+/// The skin's image for a picture; empty for those that the toolkit draws.
+QString imageOf(QStyle::StandardPixmap icon)
+{
+    switch (uint(icon)) {
+    case QStyle::SP_MessageBoxInformation:
+        return QStringLiteral("message_information");
+    case QStyle::SP_MessageBoxWarning:
+        return QStringLiteral("message_warning");
+    case QStyle::SP_MessageBoxCritical:
+        return QStringLiteral("message_critical");
+    case QStyle::SP_MessageBoxQuestion:
+        return QStringLiteral("message_question");
+    case SkinStyle::SettingsPicture:
+        return QStringLiteral("tool_settings");
+    case SkinStyle::UndoPicture:
+        return QStringLiteral("tool_undo");
+    default:
+        return QString();
+    }
 }
 
 } // namespace
@@ -223,4 +246,21 @@ void SkinStyle::drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,
         proxy()->drawPrimitive(arrows[horizontal][atStart], &arrow, &painter, widget);
     }
     painter.restore();
+}
+
+QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                              const QWidget* widget) const
+{
+    const QString image = imageOf(icon);
+    return image.isEmpty() ? QProxyStyle::standardIcon(icon, option, widget) : SkinIcon::of(image);
+}
+
+QPixmap SkinStyle::standardPixmap(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    const QString image = imageOf(icon);
+    if (image.isEmpty())
+        return QProxyStyle::standardPixmap(icon, option, widget);
+    return SkinIcon::picture(image, proxy()->pixelMetric(PM_MessageBoxIconSize, option, widget),
+                             widget ? widget->devicePixelRatioF() : qApp->devicePixelRatio());
 }

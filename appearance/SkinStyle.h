@@ -20,6 +20,9 @@ class QStyleOptionSlider;
 class SkinStyle : public QProxyStyle {
     Q_OBJECT
 public:
+    /// Standard icons beside those of every style: the skin's, for tool bars.
+    enum Picture { SettingsPicture = SP_CustomBase + 1, UndoPicture };
+
     SkinStyle();
 
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
@@ -33,6 +36,10 @@ public:
                      const QWidget* widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget = nullptr) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
+    QPixmap standardPixmap(StandardPixmap icon, const QStyleOption* option,
+                           const QWidget* widget = nullptr) const override;
 
 private:
     void drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,

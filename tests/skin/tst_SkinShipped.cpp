@@ -211,7 +211,7 @@ void tst_SkinShipped::builtInLightIsTheShippedOne()
                  shipped);
         ++count;
     }
-    QCOMPARE(count, 18);
+    QCOMPARE(count, 24);
 }
 
 void tst_SkinShipped::paletteFollowsTheTable_data() { loadsWithoutProblems_data(); }
