@@ -33,6 +33,11 @@ QString DataDirectory::clientFile() const
     return configDirectory() + QStringLiteral("/client.ini");
 }
 
+QString DataDirectory::windowFile() const
+{
+    return configDirectory() + QStringLiteral("/window.ini");
+}
+
 QString DataDirectory::skinsDirectory() const { return m_home + QStringLiteral("/skins"); }
 QString DataDirectory::runDirectory() const { return m_home + QStringLiteral("/run"); }
 QString DataDirectory::lockFile() const { return runDirectory() + QStringLiteral("/client.lock"); }

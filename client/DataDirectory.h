@@ -24,6 +24,8 @@ public:
     QString settingsFile() const;
     /// The client's own choices for its window.
     QString clientFile() const;
+    /// How the client's window was left.
+    QString windowFile() const;
     /// The user's own skins, a folder each.
     QString skinsDirectory() const;
     QString runDirectory() const;

@@ -1,5 +1,6 @@
 #include "client/MainWindow.h"
 
+#include "appearance/SkinStyle.h"
 #include "client/DataDirectory.h"
 #include "client/LanguageMenu.h"
 #include "client/RecordActions.h"
@@ -8,6 +9,7 @@
 #include "client/SettingsModule.h"
 #include "client/SettingsWindow.h"
 #include "client/TradeCore.h"
+#include "client/WindowMemory.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,7 +20,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTime>
 #include <QToolBar>
 
@@ -41,14 +42,19 @@ MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
     const QSize wanted(980, 680);
     const QSize usualFrame(4, 40);
     resize(wanted.boundedTo(screen()->availableSize() - usualFrame));
+    WindowMemory::restore(m_directory, *this, *m_view);
 }
+
+MainWindow::~MainWindow() { WindowMemory::keep(m_directory, *this, *m_view); }
 
 RecordModel* MainWindow::model() const { return m_view->model(); }
 
 void MainWindow::buildActions()
 {
-    auto* const settings
-        = new QAction(style()->standardIcon(QStyle::SP_FileDialogDetailedView), tr("设置"), this);
+    const auto picture = [this](SkinStyle::Picture which) {
+        return style()->standardIcon(QStyle::StandardPixmap(which));
+    };
+    auto* const settings = new QAction(picture(SkinStyle::SettingsPicture), tr("设置"), this);
     settings->setObjectName(QStringLiteral("action_settings"));
     settings->setShortcut(QKeySequence(QStringLiteral("Ctrl+,")));
     settings->setToolTip(
@@ -80,6 +86,7 @@ void MainWindow::buildActions()
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    m_recordActions->undoAction()->setIcon(picture(SkinStyle::UndoPicture));
     bar->addActions({settings, m_recordActions->undoAction()});
 }
 

@@ -21,6 +21,7 @@ public:
     /// The arguments must outlive the window.
     MainWindow(const SettingsModule& module, TradeCore& core, const DataDirectory& directory,
                QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     /// Opens the settings, or brings them to the front when they are open.
     void openSettings();

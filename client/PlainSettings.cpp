@@ -51,12 +51,18 @@ QVariant PlainSettings::value(const QString& file, const QString& key)
 
 QString PlainSettings::setValue(const QString& file, const QString& key, const QString& value)
 {
+    return setValues(file, {{key, value}});
+}
+
+QString PlainSettings::setValues(const QString& file, const QMap<QString, QString>& values)
+{
     const QByteArray plain = plainLines(contentOf(file));
     QTemporaryFile copy;
     if (!copy.open() || copy.write(plain) != plain.size() || !copy.flush())
         return copy.errorString();
     QSettings settings(copy.fileName(), QSettings::IniFormat);
-    settings.setValue(key, value);
+    for (auto value = values.begin(); value != values.end(); ++value)
+        settings.setValue(value.key(), value.value());
     settings.sync();
     if (settings.status() != QSettings::NoError)
         return QCoreApplication::translate("PlainSettings", "无法写入 %1").arg(copy.fileName());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QVariant>
 
@@ -17,5 +18,6 @@ QVariant value(const QString& file, const QString& key);
 /// Replaces the file as a whole; what else is plain in it is kept. Returns an empty text, or why
 /// the file stays as it was.
 QString setValue(const QString& file, const QString& key, const QString& value);
+QString setValues(const QString& file, const QMap<QString, QString>& values);
 
 } // namespace PlainSettings

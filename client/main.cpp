@@ -176,6 +176,8 @@ int main(int argc, char** argv)
     if (!failure.isEmpty())
         return Messages::fail(failure);
 
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/client/tradeclient.svg")));
+    QGuiApplication::setDesktopFileName(QLatin1String(Identity::identifier));
     QApplication::setStyle(new SkinStyle);
     CorvelSkin::SkinLibrary::instance()->addFolder(directory.skinsDirectory());
     SkinSwitcher skins;

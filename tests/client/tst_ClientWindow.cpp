@@ -43,6 +43,7 @@ private Q_SLOTS:
     void changeWithoutAConfirm();
     void languageFromTheMenu();
     void restoresDefaultsAndUndoes();
+    void comesBackAsItWasLeft();
     void takesTheMouse();
     void opensAgainAndAgain();
     void secondRequestFindsTheSameWindow();
@@ -313,6 +314,20 @@ void tst_ClientWindow::restoresDefaultsAndUndoes()
     QCOMPARE(cell("lockMinutes", RecordModel::ValueColumn), QStringLiteral("45"));
     QVERIFY(summary->text().endsWith(QStringLiteral(" 已撤消，修改了 1 项")));
     QVERIFY(!action("action_undo")->isEnabled());
+}
+
+void tst_ClientWindow::comesBackAsItWasLeft()
+{
+    m_window->resize(600, 420);
+    m_window->findChild<QLineEdit*>(QStringLiteral("lineEdit_search"))
+        ->setText(QStringLiteral("split"));
+    m_window.reset();
+    m_window = std::make_unique<MainWindow>(m_module, *m_core, *m_directory);
+    QCOMPARE(m_window->size(), QSize(600, 420));
+    QCOMPARE(m_window->findChild<QLineEdit*>(QStringLiteral("lineEdit_search"))->text(),
+             QStringLiteral("split"));
+    auto* const table = m_window->findChild<QTableView*>(QStringLiteral("tableView_record"));
+    QVERIFY(table->model()->rowCount() < 20);
 }
 
 void tst_ClientWindow::takesTheMouse()

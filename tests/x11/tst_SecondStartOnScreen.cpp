@@ -36,6 +36,7 @@ class tst_SecondStartOnScreen : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void showsItsIcon();
     void bringsTheWindowToTheFront_data();
     void bringsTheWindowToTheFront();
 
@@ -55,6 +56,24 @@ std::unique_ptr<QProcess> tst_SecondStartOnScreen::startClient() const
     client->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     client->start(QStringLiteral(CLIENT_PROGRAM), QStringList());
     return client;
+}
+
+void tst_SecondStartOnScreen::showsItsIcon()
+{
+    const auto client = startClient();
+    const QStringList search{QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                             QStringLiteral("--name"), QStringLiteral("^交易客户端$")};
+    QTRY_VERIFY_WITH_TIMEOUT(!xdotoolSays(search).isEmpty(), patience);
+    const auto property = [&search](const char* name) {
+        return answerOf(
+            QStringLiteral("xprop"),
+            {QStringLiteral("-id"), QString::fromLatin1(xdotoolSays(search)), QLatin1String(name)});
+    };
+    const QByteArray icon = property("_NET_WM_ICON");
+    // The window manager gives one of 48 pixels to a window without.
+    QVERIFY2(icon.contains("Icon (128 x 128)"), icon.left(200).constData());
+    client->terminate();
+    QVERIFY(client->waitForFinished(patience));
 }
 
 void tst_SecondStartOnScreen::bringsTheWindowToTheFront_data()
