@@ -94,6 +94,19 @@ QString TableLineEditAccessible::text(int start, int end) const
 
 int TableLineEditAccessible::characterCount() const { return cell()->text().size(); }
 
+QString TableLineEditAccessible::textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
+                                              int* start, int* end) const
+{
+    const int count = characterCount();
+    if (boundary == QAccessible::CharBoundary || offset < -1 || offset > count || count == 0)
+        return QAccessibleTextInterface::textAtOffset(offset, boundary, start, end);
+    // A chord is one word. The toolkit's search for the ends of a word comes to no end itself
+    // behind the last one, or in "+".
+    *start = 0;
+    *end = count;
+    return text(0, count);
+}
+
 QRect TableLineEditAccessible::characterRect(int offset) const
 {
     // The cursor is the one place in the text that a line edit tells.

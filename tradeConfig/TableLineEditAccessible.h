@@ -36,6 +36,8 @@ public:
     void setCursorPosition(int position) override;
     QString text(int start, int end) const override;
     int characterCount() const override;
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int* start,
+                         int* end) const override;
     QRect characterRect(int offset) const override;
     int offsetAtPoint(const QPoint& point) const override;
     void scrollToSubstring(int start, int end) override;

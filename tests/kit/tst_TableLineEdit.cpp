@@ -113,6 +113,8 @@ private Q_SLOTS:
     void assistiveTechnologyCannotType_data();
     void assistiveTechnologyCannotType();
     void assistiveTechnologyReadsTheText();
+    void assistiveTechnologyReadsWords_data();
+    void assistiveTechnologyReadsWords();
     void assistiveTechnologySelectsText();
     void editFinishedReportsNothing();
     void editFinishedIsConnected();
@@ -822,6 +824,45 @@ void tst_TableLineEdit::assistiveTechnologyReadsTheText()
     }
     read->scrollToSubstring(2, 4);
     QCOMPARE(host.editor->text(), QStringLiteral("Ctrl+W"));
+}
+
+void tst_TableLineEdit::assistiveTechnologyReadsWords_data()
+{
+    QTest::addColumn<QString>("chord");
+    for (const char* const chord : {"Ctrl+W", "+", "-", "空", "Ctrl+ "})
+        QTest::newRow(chord) << QString::fromUtf8(chord);
+}
+
+// A chord is one word and one line. Asked about the place behind it, or about one that is no word,
+// the toolkit's own line edits never answer.
+void tst_TableLineEdit::assistiveTechnologyReadsWords()
+{
+    QFETCH(QString, chord);
+    CTableLineEdit editor(0);
+    editor.setText(chord);
+    const QAccessibleTextInterface& read = *accessible(&editor)->textInterface();
+    for (const auto boundary :
+         {QAccessible::WordBoundary, QAccessible::SentenceBoundary, QAccessible::LineBoundary}) {
+        for (int offset = -1; offset <= chord.size(); ++offset) {
+            int start = -1;
+            int end = -1;
+            QCOMPARE(read.textAtOffset(offset, boundary, &start, &end), chord);
+            QCOMPARE(start, 0);
+            QCOMPARE(end, chord.size());
+        }
+        for (const int outside : {-2, chord.size() + 1}) {
+            int start = 0;
+            int end = 0;
+            QCOMPARE(read.textAtOffset(outside, boundary, &start, &end), QString());
+            QCOMPARE(start, -1);
+            QCOMPARE(end, -1);
+        }
+    }
+    int start = -1;
+    int end = -1;
+    QCOMPARE(read.textAtOffset(0, QAccessible::CharBoundary, &start, &end), chord.left(1));
+    editor.clear();
+    QCOMPARE(read.textAtOffset(0, QAccessible::WordBoundary, &start, &end), QString());
 }
 
 void tst_TableLineEdit::assistiveTechnologySelectsText()
