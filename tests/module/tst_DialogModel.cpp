@@ -1,20 +1,28 @@
+#include "support/DialogModel.h"
+#include "support/Files.h"
 #include "support/KeyText.h"
 #include "support/MessageCapture.h"
-#include "support/ModalAnswer.h"
 #include "support/Shorten.h"
 #include "support/TestDialog.h"
 #include "support/TestMain.h"
 #include "tradeConfig/TableLineEdit.h"
+#include "tradeConfig/TipLabel.h"
+#include "tradeConfig/dialog/InterfaceSettings.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTimer>
 
 #include <array>
 #include <random>
 
 // A user who does thousands of things to the dialog, beside a model that knows what each of them
-// must change. The model shares no code with the module: it keeps its own fields and rules.
+// must change.
 
 namespace {
 
-enum FieldIndex { Base, Upper, Lower, Decrement, FieldCount };
+using namespace DialogModel;
 
 struct Typed {
     const char* keys;
@@ -77,12 +85,6 @@ constexpr Chord chords[] = {
     {Qt::Key_unknown, 0, nullptr},
 };
 
-constexpr const char* functions[13]
-    = {"买入股票", "卖出股票", "撤单", "查询",   "持仓",          "成交",         "委托",
-       "全撤",     "撤买",     "撤卖", "撤最后", "批量下单-买入", "批量下单-卖出"};
-
-constexpr int rowOfEntry[13] = {0, 1, 4, 5, 6, 2, 3, 7, 8, 9, 10, 11, 12};
-
 struct GroupNames {
     std::array<const char*, FieldCount> edits;
     const char* lowerLabel;
@@ -112,34 +114,6 @@ constexpr GroupNames groupNames[2] = {
      3},
 };
 
-struct BoxField {
-    const char* name;
-    std::int32_t TradeParm::*value;
-};
-
-constexpr BoxField boxes[] = {
-    {"checkBox_trade_pk", &TradeParm::clickBookQty},
-    {"checkBox_trade_cancle", &TradeParm::confirmCancel},
-    {"checkBox_trade_wt", &TradeParm::confirmOrder},
-    {"checkBox_trade_wtDlg", &TradeParm::orderSuccessDialog},
-};
-constexpr int boxCount = int(std::size(boxes));
-
-struct ComboField {
-    const char* name;
-    std::int32_t TradeParm::*value;
-    int items;
-};
-
-constexpr ComboField combos[] = {
-    {"comboBox_system_buy_type", &TradeParm::buyInputType, 2},
-    {"comboBox_system_hqLink", &TradeParm::quoteFollowsOrder, 2},
-    {"comboBox_trade_buyPrice", &TradeParm::defaultBuyPrice, 7},
-    {"comboBox_trade_sellCount", &TradeParm::defaultSellQty, 6},
-    {"comboBox_trade_wt", &TradeParm::afterOrderForm, 4},
-};
-constexpr int comboCount = int(std::size(combos));
-
 enum class Kind {
     Quantity, ///< type a quantity and leave
     Visit, ///< pass through two quantities without typing
@@ -151,8 +125,12 @@ enum class Kind {
     Rise,
     RiseChoice,
     Key,
+    Page,
+    Language,
+    Scale,
     Confirm,
     Cancel,
+    Reopen, ///< a new dialog on the same record and settings
     Sabotage, ///< changes a mark behind the model's back; never generated
 };
 
@@ -166,8 +144,9 @@ struct Action {
 using Actions = std::vector<Action>;
 
 const char* const kindNames[]
-    = {"Quantity", "Visit",      "Strategy", "Enable",  "Box",    "Combo",   "LockTime",
-       "Rise",     "RiseChoice", "Key",      "Confirm", "Cancel", "Sabotage"};
+    = {"Quantity", "Visit",   "Strategy",   "Enable", "Box",     "Combo",
+       "LockTime", "Rise",    "RiseChoice", "Key",    "Page",    "Language",
+       "Scale",    "Confirm", "Cancel",     "Reopen", "Sabotage"};
 
 QString describe(const Action& action)
 {
@@ -178,207 +157,93 @@ QString describe(const Action& action)
         .arg(action.c);
 }
 
-// Verdicts: '-' never given, 'g' accepted, 'r' refused.
+Record recordOf(FakeTrade& trade)
+{
+    Record record;
+    const TradeParm& parm = trade.parm();
+    const auto number
+        = [&record](const QString& name, int value) { record[name] = QString::number(value); };
+    const std::pair<const char*, int> numbers[] = {
+        {"splitEnabled", parm.splitEnabled},
+        {"splitStrategy", parm.splitStrategy},
+        {"splitBaseQty", parm.splitBaseQty},
+        {"splitMaxQty", parm.splitMaxQty},
+        {"splitMinQty", parm.splitMinQty},
+        {"splitStepQty", parm.splitStepQty},
+        {"starSplitEnabled", parm.starSplitEnabled},
+        {"starSplitStrategy", parm.starSplitStrategy},
+        {"starSplitBaseQty", parm.starSplitBaseQty},
+        {"starSplitMaxQty", parm.starSplitMaxQty},
+        {"starSplitMinQty", parm.starSplitMinQty},
+        {"starSplitStepQty", parm.starSplitStepQty},
+        {"starBuyRiseIndex", parm.starBuyRiseIndex},
+        {"starSellRiseIndex", parm.starSellRiseIndex},
+        {"lockMinutes", parm.lockMinutes},
+        {"languageIndex", parm.languageIndex},
+        {"uiPageMode", parm.uiPageMode},
+    };
+    for (const auto& [name, value] : numbers)
+        number(fieldName(name), value);
+    for (const PlainField& box : boxes)
+        number(fieldName(box.name), parm.*box.value);
+    for (const PlainField& combo : combos)
+        number(fieldName(combo.name), parm.*combo.value);
+    for (int item = 0; item < 3; ++item) {
+        number(elementName("starBuyRiseChoices", item), parm.starBuyRiseChoices[item]);
+        number(elementName("starSellRiseChoices", item), parm.starSellRiseChoices[item]);
+    }
+    record[fieldName("defaultPage")] = QString::fromUtf8(trade.defaultPage());
+    for (int entry = 0; entry < 13; ++entry) {
+        record[elementName("stockShortcuts", entry)]
+            = QString::fromUtf8(trade.text(&TradeParm::stockShortcuts, entry));
+        record[elementName("creditShortcuts", entry)]
+            = QString::fromUtf8(trade.text(&TradeParm::creditShortcuts, entry));
+    }
+    return record;
+}
 
-struct GroupModel {
-    bool enabled = false;
-    int strategy = 0;
-    std::array<QString, FieldCount> texts;
-    std::array<char, FieldCount> marks = {'-', '-', '-', '-'};
-    std::array<char, FieldCount> entries = {'-', '-', '-', '-'};
-    bool lowerShown = false;
-    bool decrementShown = false;
-
-    int value(int field) const { return texts[std::size_t(field)].toInt(); }
-
-    bool shown(int field) const
+/// Answers every box that comes up, with no where there is a choice, and keeps their texts.
+class Boxes {
+public:
+    Boxes()
     {
-        return field == Lower ? lowerShown : field == Decrement ? decrementShown : true;
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { answer(); });
+        m_timer.start(0);
     }
 
-    void give(int field, char verdict)
-    {
-        marks[std::size_t(field)] = verdict;
-        entries[std::size_t(field)] = verdict;
-    }
+    QStringList shown() const { return m_shown; }
 
-    void clearIfRefused(int field)
+private:
+    void answer()
     {
-        if (entries[std::size_t(field)] == 'r')
-            give(field, 'g');
-    }
-
-    void leave(int field)
-    {
-        bool good = value(field) >= 100;
-        if (good && field == Upper
-            && (value(Lower) > value(Upper) || value(Decrement) > value(Upper))) {
-            good = false;
-            lowerShown = true;
-            decrementShown = true;
-        }
-        if (good && (field == Lower || field == Decrement))
-            good = value(field) <= value(Upper);
-        if (good && field == Upper) {
-            clearIfRefused(Lower);
-            clearIfRefused(Decrement);
-        }
-        if (good && field == Lower && value(Decrement) <= value(Upper))
-            clearIfRefused(Upper);
-        if (good && field == Decrement && value(Lower) <= value(Upper))
-            clearIfRefused(Upper);
-        give(field, good ? 'g' : 'r');
-    }
-
-    void choose(bool star, int index)
-    {
-        strategy = index;
-        lowerShown = index == (star ? 3 : 1);
-        decrementShown = index == (star ? 4 : 2);
-        if (star && index <= 2) {
-            texts[Base] = QStringLiteral("10000");
-            texts[Upper] = index == 1 ? QStringLiteral("50000") : QStringLiteral("100000");
-        }
-    }
-};
-
-struct TableModel {
-    std::array<QString, 13> cells;
-    std::array<QString, 13> stored;
-    std::array<char, 13> marks;
-    std::array<QString, 13> statuses;
-    int onlyRow = -1; ///< the row in error: the others take no keys
-    char entry = '-';
-
-    TableModel()
-    {
-        marks.fill('-');
-        statuses.fill(QStringLiteral("正常"));
-    }
-
-    void refuse(std::size_t row, const QString& status)
-    {
-        marks[row] = 'r';
-        statuses[row] = status;
-        onlyRow = int(row);
-        entry = 'r';
-    }
-
-    void capture(bool credit, std::size_t row, const QString& text)
-    {
-        cells[row] = text;
-        if (!credit && (text == QStringLiteral("F5") || text == QStringLiteral("F12"))) {
-            refuse(row, text + QStringLiteral("为全局快捷键！"));
+        QWidget* const window = QApplication::activeModalWidget();
+        if (!window || !window->isVisible())
+            return;
+        if (auto* const box = qobject_cast<QMessageBox*>(window)) {
+            m_shown << box->text();
+            box->button(QMessageBox::Ok)->click();
             return;
         }
-        if (credit && stored[row] == text)
-            return;
-        stored[row] = text;
-        for (std::size_t other = 0; other < 13; ++other) {
-            if (other != row && stored[other] == text) {
-                refuse(row,
-                       QStringLiteral("与") + QString::fromUtf8(functions[other])
-                           + QStringLiteral("重复"));
+        m_shown << window->findChild<QLabel*>(QStringLiteral("msg"))->text();
+        for (auto* const button : window->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && button->text() == QStringLiteral("否")) {
+                button->click();
                 return;
             }
         }
-        marks[row] = 'g';
-        statuses[row] = QStringLiteral("正常");
-        onlyRow = -1;
-        entry = 'g';
-    }
-};
-
-struct RiseModel {
-    std::array<QString, 3> items;
-    int index = 0;
-};
-
-/// What the record must hold, in a form that is easy to compare.
-using Record = QStringList;
-
-struct Model {
-    std::array<GroupModel, 2> groups;
-    std::array<TableModel, 2> tables;
-    std::array<RiseModel, 2> rises;
-    std::array<bool, boxCount> boxStates = {};
-    std::array<int, comboCount> comboStates = {};
-    QString lockTime;
-    int saves = 0;
-    Record record; ///< as last written
-
-    bool valid() const
-    {
-        for (const GroupModel& group : groups) {
-            for (const char entry : group.entries) {
-                if (entry == 'r')
-                    return false;
-            }
-        }
-        return tables[0].entry != 'r' && tables[1].entry != 'r';
+        window->close();
     }
 
-    Record toRecord() const
-    {
-        Record fields;
-        const auto number = [&fields](int value) { fields << QString::number(value); };
-        for (const GroupModel& group : groups) {
-            number(group.enabled ? 1 : 0);
-            number(group.strategy);
-            for (int field = 0; field < FieldCount; ++field)
-                number(group.value(field));
-        }
-        for (const RiseModel& rise : rises) {
-            number(rise.index);
-            for (const QString& item : rise.items)
-                number(item.toInt());
-        }
-        for (const bool checked : boxStates)
-            number(checked ? 1 : 0);
-        for (const int index : comboStates)
-            number(index);
-        number(lockTime.toInt());
-        for (const TableModel& table : tables) {
-            for (const int row : rowOfEntry)
-                fields << table.cells[std::size_t(row)];
-        }
-        return fields;
-    }
+    QTimer m_timer;
+    QStringList m_shown;
 };
-
-Record recordOf(FakeTrade& trade)
-{
-    Record fields;
-    const TradeParm& parm = trade.parm();
-    const auto numbers = [&fields](std::initializer_list<int> values) {
-        for (const int value : values)
-            fields << QString::number(value);
-    };
-    numbers({parm.splitEnabled, parm.splitStrategy, parm.splitBaseQty, parm.splitMaxQty,
-             parm.splitMinQty, parm.splitStepQty});
-    numbers({parm.starSplitEnabled, parm.starSplitStrategy, parm.starSplitBaseQty,
-             parm.starSplitMaxQty, parm.starSplitMinQty, parm.starSplitStepQty});
-    numbers({parm.starBuyRiseIndex, parm.starBuyRiseChoices[0], parm.starBuyRiseChoices[1],
-             parm.starBuyRiseChoices[2]});
-    numbers({parm.starSellRiseIndex, parm.starSellRiseChoices[0], parm.starSellRiseChoices[1],
-             parm.starSellRiseChoices[2]});
-    for (const BoxField& box : boxes)
-        numbers({parm.*box.value});
-    for (const ComboField& combo : combos)
-        numbers({parm.*combo.value});
-    numbers({parm.lockMinutes});
-    for (int entry = 0; entry < 13; ++entry)
-        fields << QString::fromUtf8(trade.text(&TradeParm::stockShortcuts, entry));
-    for (int entry = 0; entry < 13; ++entry)
-        fields << QString::fromUtf8(trade.text(&TradeParm::creditShortcuts, entry));
-    return fields;
-}
 
 class Run {
 public:
     explicit Run(quint32 seed)
         : m_dialog([this, seed](FakeTrade& trade) { makeRecord(trade, seed); })
     {
+        m_model.open();
         show();
     }
 
@@ -399,6 +264,9 @@ private:
     void typeQuantity(std::size_t group, int field, const Typed& typed);
     void editRise(std::size_t price, const Typed& typed, bool withReturn);
     void confirm();
+    void reopen();
+    void leave(std::size_t group, int field);
+    void expectBoxes(const QStringList& expected, const Boxes& boxes);
     bool reachable(std::size_t group, int field) const;
 
     template <typename Widget = QWidget> Widget& find(const char* name) const
@@ -432,6 +300,7 @@ private:
 
     Model m_model;
     QByteArray m_reserved;
+    QStringList m_wrong; ///< what was seen besides the state
     TestDialog m_dialog;
 };
 
@@ -439,60 +308,54 @@ void Run::makeRecord(FakeTrade& trade, quint32 seed)
 {
     std::mt19937 random(seed);
     const auto pick = [&random](int count) { return int(random() % quint32(count)); };
-    const int amounts[] = {0, 50, 99, 100, 101, 200, 300, 500, 10000000};
+    const int amounts[] = {0, 50, 99, 100, 101, 200, 300, 500, 10000000, -7};
+    const auto amount = [&] { return amounts[pick(int(std::size(amounts)))]; };
     TradeParm& parm = trade.parm();
 
-    std::int32_t* const values[2][FieldCount]
-        = {{&parm.splitBaseQty, &parm.splitMaxQty, &parm.splitMinQty, &parm.splitStepQty},
-           {&parm.starSplitBaseQty, &parm.starSplitMaxQty, &parm.starSplitMinQty,
-            &parm.starSplitStepQty}};
     parm.splitEnabled = pick(4) ? 1 : 2;
     parm.starSplitEnabled = pick(4) ? 1 : 0;
     parm.splitStrategy = pick(3);
     parm.starSplitStrategy = pick(5);
-    for (auto& group : values) {
-        for (std::int32_t* const value : group)
-            *value = amounts[pick(int(std::size(amounts)))];
-    }
-    for (std::size_t g = 0; g < 2; ++g) {
-        GroupModel& group = m_model.groups[g];
-        group.enabled = (g ? parm.starSplitEnabled : parm.splitEnabled) == 1;
-        group.choose(g == 1, g ? parm.starSplitStrategy : parm.splitStrategy);
-        const bool preset = g == 1 && parm.starSplitStrategy <= 2;
-        for (std::size_t field = preset ? Upper : Base; field < FieldCount; ++field)
-            group.texts[field] = QString::number(*values[g][field]);
-    }
-
+    for (std::int32_t* const value :
+         {&parm.splitBaseQty, &parm.splitMaxQty, &parm.splitMinQty, &parm.splitStepQty,
+          &parm.starSplitBaseQty, &parm.starSplitMaxQty, &parm.starSplitMinQty,
+          &parm.starSplitStepQty})
+        *value = amount();
     for (std::size_t item = 0; item < 3; ++item) {
         parm.starBuyRiseChoices[item] = pick(101);
         parm.starSellRiseChoices[item] = pick(101);
-        m_model.rises[0].items[item] = QString::number(parm.starBuyRiseChoices[item]);
-        m_model.rises[1].items[item] = QString::number(parm.starSellRiseChoices[item]);
     }
-    m_model.rises[0].index = parm.starBuyRiseIndex = pick(3);
-    m_model.rises[1].index = parm.starSellRiseIndex = pick(3);
-
-    for (std::size_t box = 0; box < boxCount; ++box) {
-        parm.*boxes[box].value = pick(3);
-        m_model.boxStates[box] = parm.*boxes[box].value == 1;
-    }
-    for (std::size_t combo = 0; combo < comboCount; ++combo)
-        m_model.comboStates[combo] = parm.*combos[combo].value = pick(combos[combo].items);
+    parm.starBuyRiseIndex = pick(3);
+    parm.starSellRiseIndex = pick(3);
+    for (const PlainField& box : boxes)
+        parm.*box.value = pick(4) - 1;
+    for (const PlainField& combo : combos)
+        parm.*combo.value = pick(combo.items);
     parm.lockMinutes = pick(1001);
-    m_model.lockTime = QString::number(parm.lockMinutes);
+    parm.languageIndex = pick(3);
+    parm.uiPageMode = pick(3);
+    constexpr const char* pages[] = {"ptmr", "ptmc", "zjgp", "", "ptm"};
+    trade.setDefaultPage(pages[pick(int(std::size(pages)))]);
 
     for (int entry = 0; entry < 13; ++entry) {
-        const auto row = std::size_t(rowOfEntry[entry]);
-        const QChar letter = QLatin1Char(char('A' + entry));
-        m_model.tables[0].cells[row] = m_model.tables[0].stored[row]
-            = keyText(QStringLiteral("Ctrl+") + letter);
         // Keys that the user presses as well, so that some are pressed where they are already.
-        const QString key = keyText(chords[row + 3].text);
+        const QString key = keyText(chords[rowOfEntry[entry] + 3].text);
         trade.setText(&TradeParm::creditShortcuts, entry, key.toUtf8());
-        m_model.tables[1].cells[row] = m_model.tables[1].stored[row] = key;
+        // Nothing keeps a core from storing the same key twice, or none.
+        if (!pick(8))
+            trade.setText(&TradeParm::stockShortcuts, entry,
+                          pick(2) ? QByteArray() : keyText("Ctrl+A").toUtf8());
     }
     m_model.record = recordOf(trade);
     m_reserved = trade.reservedBytes();
+
+    constexpr const char* languages[] = {"zh_CN", "zh_TW", "en_US", "fr_FR"};
+    m_model.file.language = QString::fromLatin1(languages[pick(int(std::size(languages)))]);
+    m_model.file.scale = QString::number(95 + 5 * pick(45));
+    writeFile(InterfaceSettings::filePath(),
+              QStringLiteral("[UI]\nlanguage=%1\nscale=%2\n")
+                  .arg(m_model.file.language, m_model.file.scale)
+                  .toUtf8());
 }
 
 void Run::show()
@@ -520,7 +383,14 @@ void Run::typeQuantity(std::size_t group, int field, const Typed& typed)
     type(edit(group, field), typed.keys);
     m_dialog.leaveField();
     m_model.groups[group].texts[std::size_t(field)] = QString::fromLatin1(typed.text);
-    m_model.groups[group].leave(field);
+    leave(group, field);
+}
+
+void Run::leave(std::size_t group, int field)
+{
+    const QString tip = m_model.groups[group].leave(field);
+    if (!tip.isEmpty())
+        m_model.tip = tip;
 }
 
 void Run::editRise(std::size_t price, const Typed& typed, bool withReturn)
@@ -531,24 +401,33 @@ void Run::editRise(std::size_t price, const Typed& typed, bool withReturn)
     if (withReturn)
         QTest::keyClick(&riseCombo(price), Qt::Key_Return);
     m_dialog.leaveField();
-    RiseModel& rise = m_model.rises[price];
+    Rise& rise = m_model.rises[price];
     rise.items[std::size_t(rise.index)] = QString::fromLatin1(typed.text);
+}
+
+void Run::expectBoxes(const QStringList& expected, const Boxes& boxes)
+{
+    if (boxes.shown() != expected)
+        m_wrong << QStringLiteral("boxes: %1, expected %2")
+                       .arg(boxes.shown().join(u'|'), expected.join(u'|'));
 }
 
 void Run::confirm()
 {
-    if (m_model.valid()) {
-        m_dialog.confirm();
-        m_model.record = m_model.toRecord();
-        ++m_model.saves;
-        if (m_dialog->isVisible())
-            QTest::qFail("a confirmed dialog stays open", __FILE__, __LINE__);
-    } else {
-        const ModalAnswer answer = ModalAnswer::pressing(QMessageBox::Ok);
-        m_dialog.confirm();
-        if (!m_dialog->isVisible())
-            QTest::qFail("a refused dialog closes", __FILE__, __LINE__);
-    }
+    const bool valid = m_model.valid();
+    const Boxes boxes;
+    m_dialog.confirm();
+    expectBoxes(m_model.confirm(), boxes);
+    if (m_dialog->isVisible() == valid)
+        m_wrong << (valid ? QStringLiteral("a confirmed dialog stays open")
+                          : QStringLiteral("a refused dialog closes"));
+    show();
+}
+
+void Run::reopen()
+{
+    m_dialog.reopen();
+    m_model.open();
     show();
 }
 
@@ -570,17 +449,17 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
         edit(a, b).setFocus();
         edit(a, c).setFocus();
         m_dialog.leaveField();
-        m_model.groups[a].leave(b);
-        m_model.groups[a].leave(c);
+        leave(a, b);
+        leave(a, c);
         break;
     case Kind::Strategy: {
-        GroupModel& group = m_model.groups[a];
+        Group& group = m_model.groups[a];
         const int index = b % groupNames[a].strategies;
         if (!group.enabled)
             break;
         find<QComboBox>(groupNames[a].strategy).setCurrentIndex(index);
         if (index != group.strategy)
-            group.choose(a == 1, index);
+            group.choose(index);
         break;
     }
     case Kind::Enable:
@@ -588,11 +467,11 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
         m_model.groups[a].enabled = !m_model.groups[a].enabled;
         break;
     case Kind::Box:
-        find<QCheckBox>(boxes[a].name).click();
+        find<QCheckBox>(boxes[a].control).click();
         m_model.boxStates[a] = !m_model.boxStates[a];
         break;
     case Kind::Combo:
-        find<QComboBox>(combos[a].name).setCurrentIndex(b % combos[a].items);
+        find<QComboBox>(combos[a].control).setCurrentIndex(b % combos[a].items);
         m_model.comboStates[a] = b % combos[a].items;
         break;
     case Kind::LockTime:
@@ -613,19 +492,37 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
         QWidget* const cell = table(a).cellWidget(b, 1);
         QKeyEvent press(QEvent::KeyPress, chord.key, Qt::KeyboardModifiers(chord.modifiers));
         QCoreApplication::sendEvent(cell, &press);
-        const int onlyRow = m_model.tables[a].onlyRow;
-        if (chord.text && (onlyRow < 0 || onlyRow == b))
-            m_model.tables[a].capture(a == 1, std::size_t(b), keyText(chord.text));
+        if (chord.text && m_model.tables[a].takesKeys(b))
+            m_model.tables[a].capture(std::size_t(b), keyText(chord.text));
         break;
     }
+    case Kind::Page:
+        m_dialog->ui.comboBox_system_defaultView->setCurrentIndex(int(a));
+        m_model.page = int(a);
+        break;
+    case Kind::Language: {
+        const Boxes boxes;
+        m_dialog->ui.comboBox_system_language->setCurrentIndex(int(a));
+        const QString box = m_model.changeLanguage(int(a));
+        expectBoxes(box.isEmpty() ? QStringList() : QStringList(box), boxes);
+        show();
+        break;
+    }
+    case Kind::Scale:
+        m_dialog->ui.spinBox_scale->setValue(b);
+        m_model.changeScale(b);
+        break;
     case Kind::Confirm:
         confirm();
         break;
     case Kind::Cancel:
         m_dialog->ui.pushButton_cancle->click();
         if (m_dialog->isVisible())
-            QTest::qFail("a cancelled dialog stays open", __FILE__, __LINE__);
+            m_wrong << QStringLiteral("a cancelled dialog stays open");
         show();
+        break;
+    case Kind::Reopen:
+        reopen();
         break;
     case Kind::Sabotage:
         edit(a, b).setStyleSheet(QStringLiteral("color:blue"));
@@ -635,7 +532,7 @@ void Run::perform(Kind kind, std::size_t a, int b, int c)
 
 QString Run::compare()
 {
-    QStringList wrong;
+    QStringList wrong = m_wrong;
     const auto same = [&wrong](const auto& actual, const auto& expected, const QString& what) {
         if (actual != expected)
             wrong << QStringLiteral("%1: %2, expected %3").arg(what).arg(actual).arg(expected);
@@ -654,7 +551,7 @@ QString Run::compare()
     };
 
     for (std::size_t g = 0; g < 2; ++g) {
-        const GroupModel& group = m_model.groups[g];
+        const Group& group = m_model.groups[g];
         const GroupNames& names = groupNames[g];
         for (std::size_t f = 0; f < FieldCount; ++f) {
             const QString name = QString::fromLatin1(names.edits[f]);
@@ -674,7 +571,7 @@ QString Run::compare()
         same(find(names.strategy).isEnabled(), group.enabled, QStringLiteral("strategy enabled"));
     }
     for (std::size_t t = 0; t < 2; ++t) {
-        const TableModel& expected = m_model.tables[t];
+        const Table& expected = m_model.tables[t];
         const QStringList& stored
             = t ? m_dialog->creditShortcutTexts : m_dialog->stockShortcutTexts;
         for (int row = 0; row < 13; ++row) {
@@ -707,17 +604,32 @@ QString Run::compare()
         same(combo.isEditable(), false, what + QStringLiteral(" editable"));
     }
     for (std::size_t box = 0; box < boxCount; ++box)
-        same(find<QCheckBox>(boxes[box].name).isChecked(), m_model.boxStates[box],
+        same(find<QCheckBox>(boxes[box].control).isChecked(), m_model.boxStates[box],
              QString::fromLatin1(boxes[box].name));
     for (std::size_t combo = 0; combo < comboCount; ++combo)
-        same(find<QComboBox>(combos[combo].name).currentIndex(), m_model.comboStates[combo],
+        same(find<QComboBox>(combos[combo].control).currentIndex(), m_model.comboStates[combo],
              QString::fromLatin1(combos[combo].name));
     same(m_dialog->ui.lineEdit_system_lockTime->text(), m_model.lockTime,
          QStringLiteral("lock time"));
+    const Ui_CTradeConfigWidget& ui = m_dialog->ui;
+    same(ui.comboBox_system_defaultView->currentIndex(), m_model.page, QStringLiteral("page"));
+    same(ui.comboBox_system_language->currentIndex(), m_model.language, QStringLiteral("language"));
+    same(ui.spinBox_scale->value(), m_model.scale, QStringLiteral("scale"));
+    same(m_dialog->restartNeeded, m_model.restartNeeded, QStringLiteral("restart needed"));
+    same(m_dialog->tipLabel->text(), m_model.tip, QStringLiteral("tip"));
+    const QSettings file(InterfaceSettings::filePath(), QSettings::IniFormat);
+    same(file.value(QStringLiteral("UI/language")).toString(), m_model.file.language,
+         QStringLiteral("language in the file"));
+    same(file.value(QStringLiteral("UI/scale")).toString(), m_model.file.scale,
+         QStringLiteral("scale in the file"));
     if (m_dialog->inputValidity != entries)
         wrong << QStringLiteral("the validity entries differ");
     same(m_dialog.trade.saves, m_model.saves, QStringLiteral("saves"));
-    same(recordOf(m_dialog.trade).join(u'|'), m_model.record.join(u'|'), QStringLiteral("record"));
+    const Record record = recordOf(m_dialog.trade);
+    if (record.size() != m_model.record.size())
+        wrong << QStringLiteral("other fields in the record");
+    for (auto field = record.cbegin(); field != record.cend(); ++field)
+        same(field.value(), m_model.record.value(field.key()), field.key());
     if (m_dialog.trade.reservedBytes() != m_reserved)
         wrong << QStringLiteral("the reserved bytes changed");
     return wrong.join(QStringLiteral("; "));
@@ -731,7 +643,8 @@ Actions makeActions(quint32 seed, int count)
         = {Kind::Quantity, Kind::Quantity, Kind::Quantity, Kind::Quantity,   Kind::Quantity,
            Kind::Visit,    Kind::Strategy, Kind::Strategy, Kind::Enable,     Kind::Box,
            Kind::Combo,    Kind::LockTime, Kind::Rise,     Kind::RiseChoice, Kind::Key,
-           Kind::Key,      Kind::Key,      Kind::Key,      Kind::Confirm,    Kind::Cancel};
+           Kind::Key,      Kind::Key,      Kind::Key,      Kind::Confirm,    Kind::Cancel,
+           Kind::Combo,    Kind::Page,     Kind::Language, Kind::Scale,      Kind::Reopen};
     Actions actions;
     actions.reserve(std::size_t(count));
     while (int(actions.size()) < count) {
@@ -773,8 +686,16 @@ Actions makeActions(quint32 seed, int count)
             if (!pick(4))
                 actions.push_back(actions.back());
             break;
+        case Kind::Page:
+        case Kind::Language:
+            actions.push_back(Action{kind, pick(3)});
+            break;
+        case Kind::Scale:
+            actions.push_back(Action{kind, 0, 100 + 5 * pick(41)});
+            break;
         case Kind::Confirm:
         case Kind::Cancel:
+        case Kind::Reopen:
         case Kind::Sabotage:
             actions.push_back(Action{kind});
             break;
@@ -829,20 +750,26 @@ private Q_SLOTS:
 void tst_DialogModel::randomUser_data()
 {
     QTest::addColumn<quint32>("seed");
+    QTest::addColumn<int>("steps");
     bool given = false;
-    const quint32 fixed = qEnvironmentVariable("TRADECONFIG_SEED").toUInt(&given, 0);
+    quint32 seed = qEnvironmentVariable("TRADECONFIG_SEED").toUInt(&given, 0);
+    const int wanted = qEnvironmentVariableIntValue("TRADECONFIG_STEPS");
+    constexpr int usualSteps = 500;
     std::random_device device;
-    for (int run = 0; run < (given ? 1 : 6); ++run) {
-        const quint32 seed = given ? fixed : device();
-        QTest::addRow("TRADECONFIG_SEED=%u", seed) << seed;
+    for (int left = wanted > 0 ? wanted : (given ? 1 : 6) * usualSteps; left > 0;
+         left -= usualSteps) {
+        seed = given ? seed : device();
+        QTest::addRow("TRADECONFIG_SEED=%u", seed) << seed << std::min(left, usualSteps);
+        ++seed;
     }
 }
 
 void tst_DialogModel::randomUser()
 {
     QFETCH(quint32, seed);
+    QFETCH(int, steps);
     qInfo("seed %u", seed);
-    Actions actions = makeActions(seed, 700);
+    Actions actions = makeActions(seed, steps);
     QString failure = failureOf(seed, actions);
     if (failure.isEmpty())
         return;

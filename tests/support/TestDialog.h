@@ -25,6 +25,13 @@ public:
         m_dialog = std::make_unique<CTradeConfigWidget>(&trade);
     }
 
+    /// Another dialog in place of this one, on the same core.
+    void reopen()
+    {
+        m_dialog.reset();
+        m_dialog = std::make_unique<CTradeConfigWidget>(&trade);
+    }
+
     CTradeConfigWidget* operator->() const { return m_dialog.get(); }
     CTradeConfigWidget& operator*() const { return *m_dialog; }
     CTradeConfigWidget* get() const { return m_dialog.get(); }
