@@ -3,6 +3,7 @@
 #include "tradeConfig/ITrade.h"
 
 #include <QCoreApplication>
+#include <QKeySequence>
 #include <QStringList>
 
 #include <cstring>
@@ -18,12 +19,23 @@ Element* place(Record& record, const Field& field, int index = 0)
     return reinterpret_cast<Element*>(start) + index;
 }
 
+QString keyMeaning(const QString& keys, const char* function, const Translate& say)
+{
+    if (keys.isEmpty())
+        return say(QT_TRANSLATE_NOOP("RecordFields", "未设置"));
+    const QKeySequence sequence(keys, QKeySequence::NativeText);
+    if (sequence.isEmpty() || sequence[0] == Qt::Key_unknown)
+        return say(QT_TRANSLATE_NOOP("RecordFields", "无法识别的按键"));
+    //: %1 is a key, %2 what it does
+    return say(QT_TRANSLATE_NOOP("RecordFields", "按 %1：%2")).arg(keys, say(function));
+}
+
+} // namespace
+
 QString translated(const char* source)
 {
     return QCoreApplication::translate("RecordFields", source);
 }
-
-} // namespace
 
 int integer(const TradeParm& record, const Field& field, int index)
 {
@@ -106,33 +118,37 @@ QString displayValue(const TradeParm& record, const Field& field, int index)
     return QString();
 }
 
-QString meaning(const TradeParm& record, const Field& field, int index)
+QString meaning(const TradeParm& record, const Field& field, int index, const Translate& say)
 {
     if (field.kind == Kind::Bytes)
-        return QCoreApplication::translate("RecordFields", "由客户端保留");
+        return say(QT_TRANSLATE_NOOP("RecordFields", "由客户端保留"));
     if (field.isKeys)
-        return text(record, field, index).isEmpty()
-            ? QCoreApplication::translate("RecordFields", "未设置")
-            : QString();
+        return keyMeaning(text(record, field, index), field.elementTitles[index], say);
     const QString value = displayValue(record, field, index);
     for (int i = 0; i < field.meaningCount; ++i) {
         const Meaning& known = field.meanings[i];
         if (known.code ? value == QLatin1String(known.code)
                        : integer(record, field, index) == known.value)
-            return translated(known.text);
+            return say(known.text);
     }
     if (field.unit)
-        return translated(field.unit).arg(value);
-    return field.otherMeaning ? translated(field.otherMeaning) : QString();
+        return say(field.unit).arg(value);
+    return field.otherMeaning ? say(field.otherMeaning) : QString();
 }
 
-QString title(const Field& field, int index)
+QString shortly(const TradeParm& record, const Field& field, int index)
 {
-    const QString whole = translated(field.title);
+    const QString words = field.isKeys ? QString() : meaning(record, field, index);
+    return words.isEmpty() ? displayValue(record, field, index) : words;
+}
+
+QString title(const Field& field, int index, const Translate& say)
+{
+    const QString whole = say(field.title);
     if (!field.isArray)
         return whole;
-    return QCoreApplication::translate("RecordFields", "%1：%2")
-        .arg(whole, translated(field.elementTitles[index]));
+    return say(QT_TRANSLATE_NOOP("RecordFields", "%1：%2"))
+        .arg(whole, say(field.elementTitles[index]));
 }
 
 QString elementName(const Field& field, int index)

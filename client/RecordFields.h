@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 struct TradeParm;
 
 /**
@@ -34,10 +36,17 @@ QString allowedValues(const Field& field);
 
 /// The element's value as it is stored, for display.
 QString displayValue(const TradeParm& record, const Field& field, int index);
-/// What the element's value means, translated; empty when there is nothing to add.
-QString meaning(const TradeParm& record, const Field& field, int index);
-/// The field's (or the array element's) title, translated.
-QString title(const Field& field, int index);
+/// A text of the table, or of this file, in some language.
+using Translate = std::function<QString(const char* source)>;
+/// In the language of the interface.
+QString translated(const char* source);
+/// What the element's value means; empty when there is nothing to add.
+QString meaning(const TradeParm& record, const Field& field, int index,
+                const Translate& say = translated);
+/// The element's value in a word: what it means, or as it is stored.
+QString shortly(const TradeParm& record, const Field& field, int index);
+/// The field's (or the array element's) title.
+QString title(const Field& field, int index, const Translate& say = translated);
 /// "splitMaxQty", or "stockShortcuts[4]" for an element of an array.
 QString elementName(const Field& field, int index);
 

@@ -8,10 +8,16 @@ void RecordFilter::setChangedOnly(bool changedOnly)
     invalidateFilter();
 }
 
+void RecordFilter::setSearch(const QString& search)
+{
+    m_search = search;
+    invalidateFilter();
+}
+
 bool RecordFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
 {
     const QModelIndex index = sourceModel()->index(row, 0, parent);
     if (m_changedOnly && !index.data(RecordModel::ChangedRole).toBool())
         return false;
-    return QSortFilterProxyModel::filterAcceptsRow(row, parent);
+    return index.data(RecordModel::SearchRole).toString().contains(m_search, Qt::CaseInsensitive);
 }

@@ -9,10 +9,12 @@ class RecordFilter : public QSortFilterProxyModel {
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
     void setChangedOnly(bool changedOnly);
+    void setSearch(const QString& search);
 
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
 private:
     bool m_changedOnly = false;
+    QString m_search;
 };

@@ -14,14 +14,25 @@ RecordModel::RecordModel(QObject* parent)
 {
 }
 
-QVector<RecordModel::Row> RecordModel::rowsOf(const OwnedRecord& record)
+QVector<RecordModel::Row> RecordModel::rowsOf(const OwnedRecord& record) const
 {
     QVector<Row> rows;
     for (const Field& field : RecordFields::all()) {
         for (int i = 0; i < (field.isArray ? field.count : 1); ++i) {
-            rows.append({RecordFields::title(field, i), RecordFields::elementName(field, i),
-                         RecordFields::displayValue(record.get(), field, i),
-                         RecordFields::meaning(record.get(), field, i), QString()});
+            const TradeParm& values = record.get();
+            Row row{RecordFields::title(field, i),
+                    RecordFields::elementName(field, i),
+                    RecordFields::displayValue(values, field, i),
+                    RecordFields::meaning(values, field, i),
+                    RecordFields::shortly(values, field, i),
+                    QString(),
+                    QString()};
+            QStringList search{row.name, row.value};
+            for (const RecordFields::Translate& translate : m_texts.languages())
+                search << RecordFields::title(field, i, translate)
+                       << RecordFields::meaning(values, field, i, translate);
+            row.search = search.join(QLatin1Char('\n'));
+            rows.append(row);
         }
     }
     return rows;
@@ -36,8 +47,8 @@ int RecordModel::markChanges(QVector<Row>& rows) const
         const Row& before = m_rows.at(i);
         if (before.value == rows.at(i).value)
             continue;
-        const QString shown = before.meaning.isEmpty() ? before.value : before.meaning;
-        rows[i].change = shown.isEmpty() ? tr("原为空") : tr("原为 %1").arg(shown);
+        rows[i].change
+            = before.shortly.isEmpty() ? tr("原为空") : tr("原为 %1").arg(before.shortly);
         ++count;
     }
     return count;
@@ -122,6 +133,8 @@ QVariant RecordModel::data(const QModelIndex& index, int role) const
         return changed ? QVariant(QColor(255, 176, 32, 72)) : QVariant();
     case ChangedRole:
         return changed;
+    case SearchRole:
+        return QString(row.search + QLatin1Char('\n') + row.change);
     }
     return QVariant();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "client/OwnedRecord.h"
+#include "client/SpokenTexts.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>
@@ -12,7 +13,10 @@ class RecordModel : public QAbstractTableModel {
 
 public:
     enum Column { TitleColumn, NameColumn, ValueColumn, MeaningColumn, ChangeColumn, ColumnCount };
-    enum Role { ChangedRole = Qt::UserRole };
+    enum Role {
+        ChangedRole = Qt::UserRole,
+        SearchRole ///< all that the row is found by: its texts, in every language
+    };
 
     explicit RecordModel(QObject* parent = nullptr);
 
@@ -37,12 +41,15 @@ private:
         QString name;
         QString value;
         QString meaning;
+        QString shortly; ///< the value in a word
+        QString search;
         QString change; ///< empty unless the row is marked
     };
-    static QVector<Row> rowsOf(const OwnedRecord& record);
+    QVector<Row> rowsOf(const OwnedRecord& record) const;
     /// How a row looked before, for those of @p rows that differ from what is shown.
     int markChanges(QVector<Row>& rows) const;
     void replace(QVector<Row> rows);
 
+    const SpokenTexts m_texts;
     QVector<Row> m_rows;
 };

@@ -3,13 +3,18 @@
 #include "client/RecordFilter.h"
 #include "client/RecordModel.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -35,16 +40,13 @@ RecordView::RecordView(QWidget* parent)
     , m_table(makeTable())
 {
     m_filter->setSourceModel(m_model);
-    m_filter->setFilterKeyColumn(-1);
-    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_summary->setObjectName(QStringLiteral("label_summary"));
     m_search->setObjectName(QStringLiteral("lineEdit_search"));
     m_search->setPlaceholderText(tr("搜索参数、字段或数值"));
     m_search->setClearButtonEnabled(true);
     m_search->setMinimumWidth(16 * fontMetrics().horizontalAdvance(QLatin1Char('M')));
     m_changedOnly->setObjectName(QStringLiteral("checkBox_changedOnly"));
-    connect(m_search, &QLineEdit::textChanged, m_filter,
-            &QSortFilterProxyModel::setFilterFixedString);
+    connect(m_search, &QLineEdit::textChanged, m_filter, &RecordFilter::setSearch);
     connect(m_changedOnly, &QCheckBox::toggled, m_filter, &RecordFilter::setChangedOnly);
 
     auto* const top = new QHBoxLayout;
@@ -79,7 +81,30 @@ QTableView* RecordView::makeTable()
     constexpr int columnWidths[] = {20, 15, 10, 12};
     for (int column = 0; column < RecordModel::ChangeColumn; ++column)
         table->setColumnWidth(column, columnWidths[column] * em);
+    auto* const copy = new QAction(tr("复制(&C)"), table);
+    copy->setObjectName(QStringLiteral("action_copyRows"));
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &RecordView::copyRows);
+    table->addAction(copy);
+    table->setContextMenuPolicy(Qt::ActionsContextMenu);
     return table;
+}
+
+// A line for each, with tabs, as a spreadsheet takes them.
+void RecordView::copyRows() const
+{
+    QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QString text;
+    for (const QModelIndex& row : qAsConst(rows)) {
+        QStringList cells;
+        for (int column = 0; column < RecordModel::ColumnCount; ++column)
+            cells += row.siblingAtColumn(column).data().toString();
+        text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    }
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
 }
 
 void RecordView::setSummary(const QString& summary) { m_summary->setText(summary); }

@@ -26,6 +26,7 @@ public:
 
 private:
     QTableView* makeTable();
+    void copyRows() const;
 
     RecordModel* m_model;
     RecordFilter* m_filter;

@@ -1929,20 +1929,29 @@ A copy of the current ones is kept.</translation>
         <translation>text</translation>
     </message>
     <message>
-        <source>由客户端保留</source>
-        <translation>kept by the client</translation>
-    </message>
-    <message>
-        <source>未设置</source>
-        <translation>Not set</translation>
-    </message>
-    <message>
         <source>显示</source>
         <translation>Shown</translation>
     </message>
     <message>
         <source>隐藏</source>
         <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>未设置</source>
+        <translation>Not set</translation>
+    </message>
+    <message>
+        <source>无法识别的按键</source>
+        <translation>Not a key</translation>
+    </message>
+    <message>
+        <source>按 %1：%2</source>
+        <extracomment>%1 is a key, %2 what it does</extracomment>
+        <translation>Press %1: %2</translation>
+    </message>
+    <message>
+        <source>由客户端保留</source>
+        <translation>kept by the client</translation>
     </message>
     <message>
         <source>%1：%2</source>
@@ -2062,6 +2071,10 @@ A copy of the current ones is kept.</translation>
     <message>
         <source>交易参数</source>
         <translation>Trading parameters</translation>
+    </message>
+    <message>
+        <source>复制(&amp;C)</source>
+        <translation>&amp;Copy</translation>
     </message>
 </context>
 <context>

@@ -1924,20 +1924,29 @@
         <translation>文字</translation>
     </message>
     <message>
-        <source>由客户端保留</source>
-        <translation>由用戶端保留</translation>
-    </message>
-    <message>
-        <source>未设置</source>
-        <translation>未設定</translation>
-    </message>
-    <message>
         <source>显示</source>
         <translation>顯示</translation>
     </message>
     <message>
         <source>隐藏</source>
         <translation>隱藏</translation>
+    </message>
+    <message>
+        <source>未设置</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>无法识别的按键</source>
+        <translation>無法識別的按鍵</translation>
+    </message>
+    <message>
+        <source>按 %1：%2</source>
+        <extracomment>%1 is a key, %2 what it does</extracomment>
+        <translation>按 %1：%2</translation>
+    </message>
+    <message>
+        <source>由客户端保留</source>
+        <translation>由用戶端保留</translation>
     </message>
     <message>
         <source>%1：%2</source>
@@ -2057,6 +2066,10 @@
     <message>
         <source>交易参数</source>
         <translation>交易參數</translation>
+    </message>
+    <message>
+        <source>复制(&amp;C)</source>
+        <translation>複製(&amp;C)</translation>
     </message>
 </context>
 <context>

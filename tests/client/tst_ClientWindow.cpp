@@ -148,7 +148,10 @@ void tst_ClientWindow::showsMeanings_data()
     row("lockMinutes", "30", "30 分钟");
     row("uiPageMode", "2", "显示");
     row("reservedA", "00000000", "由客户端保留");
-    row("stockShortcuts[5]", keyText("Ctrl+R").toUtf8().constData(), "");
+    row("stockShortcuts[5]", keyText("Ctrl+R").toUtf8().constData(),
+        (QStringLiteral("按 ") + keyText("Ctrl+R") + QStringLiteral("：撤单"))
+            .toUtf8()
+            .constData());
 }
 
 void tst_ClientWindow::showsMeanings()
