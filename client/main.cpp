@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QTextCodec>
 
 #include <memory>
@@ -81,6 +82,16 @@ int runGallery(SkinSwitcher& skins, const QString& target)
     return QCoreApplication::exec();
 }
 
+// As installed; in the build tree it is beside this program.
+QString ownRestarter()
+{
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString installed
+        = programs.absoluteFilePath(QStringLiteral(CLIENT_RESTART_PLACE "/restart"));
+    return QFileInfo::exists(installed) ? QDir::cleanPath(installed)
+                                        : programs.absoluteFilePath(QStringLiteral("restart"));
+}
+
 // Puts in place what the client needs in its data directory. Returns what went wrong.
 QStringList moveIn(const DataDirectory& directory, const Instance& instance,
                    const QStringList& arguments)
@@ -90,8 +101,7 @@ QStringList moveIn(const DataDirectory& directory, const Instance& instance,
                              : Client::tr("无法创建目录 %1").arg(directory.configDirectory()),
                          instance.writeStart(QDir::currentPath(),
                                              QCoreApplication::applicationFilePath(), arguments),
-                         instance.installRestarter(QCoreApplication::applicationDirPath()
-                                                   + QStringLiteral("/restart"))};
+                         instance.installRestarter(ownRestarter())};
     troubles.removeAll(QString());
     return troubles;
 }

@@ -49,3 +49,5 @@ string(REGEX REPLACE "/$" "" PC_PREFIX_FROM_PCDIR "${PC_PREFIX_FROM_PCDIR}")
 configure_file(cmake/tradeConfig.pc.in ${PROJECT_BINARY_DIR}/tradeConfig.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tradeConfig.pc
     DESTINATION ${SDK_LIBDIR}/pkgconfig COMPONENT sdk)
+
+install(DIRECTORY docs/host-example DESTINATION ${SDK_DATADIR}/tradeConfig COMPONENT sdk)

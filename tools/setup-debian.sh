@@ -5,10 +5,11 @@ export LC_ALL=C.UTF-8
 build_packages=(
     build-essential cmake ninja-build pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev qttranslations5-l10n
-    fonts-noto-cjk
+    fonts-noto-cjk help2man
 )
 test_packages=(
     clang libgnustep-base-dev gobjc++ libbenchmark-dev
+    appstream desktop-file-utils lintian man-db
     xvfb xauth openbox xdotool x11-utils at-spi2-core dbus binutils file python3
 )
 # What clang links for sanitizers, coverage and fuzzing, and what reads and names its results;

@@ -13,16 +13,19 @@ cmake --install "$build" --prefix "$work/prefix" --component runtime >"$work/ins
 cmake --install "$build" --prefix "$work/sdk" --component sdk >>"$work/install.log"
 (cd "$work/sdk" && find . -type f | cut -c3- | sort) >"$work/files"
 [ -z "$(comm -12 "$work/runtime" "$work/files")" ]
-for file in 'lib.*/libtradeConfig.so' 'lib.*/libskin.so' bin/tradeclient bin/restart \
+for file in 'lib.*/libtradeConfig.so' 'lib.*/libskin.so' bin/tradeclient 'lib.*/tradeConfig/restart' \
+    share/applications/com.kivotrade.tradeclient.desktop share/man/man1/tradeclient.1.gz \
     share/tradeConfig/skins/light/skin.json share/tradeConfig/skins/dark/skin.json; do
     grep -qx "$file" "$work/runtime" || { echo "not of the runtime: $file"; exit 1; }
 done
-! grep -vE '^(bin/(tradeclient|restart)|lib.*/lib(tradeConfig|skin)\.so|share/tradeConfig/skins/.*)$' \
+! grep -vE -e '^(bin/tradeclient|lib.*/tradeConfig/restart|lib.*/lib(tradeConfig|skin)\.so)$' \
+    -e '^share/(tradeConfig/skins/.*|doc/tradeclient/(copyright|changelog\.gz)|man/man1/.*\.1\.gz)$' \
+    -e '^share/(applications|metainfo|icons/hicolor/scalable/apps)/com\.kivotrade\.tradeclient\.[a-z.]*$' \
     "$work/runtime" || { echo "of no use to users"; exit 1; }
 for file in include/tradeConfig/ITrade.h include/tradeConfig/ModuleEntry.h \
     include/tradeConfig/HostPlatform.h include/tradeConfig/CSkin.h \
     include/tradeConfig/skin/SkinKeys.h include/libskin/SkinLibrary.h \
-    share/tradeConfig/translations/tradeConfig_zh_TW.qm \
+    share/tradeConfig/translations/tradeConfig_zh_TW.qm share/tradeConfig/host-example/main.cpp \
     'lib.*/tradeConfig/plugins/designer/libtradeConfigDesigner.so' \
     'lib.*/cmake/tradeConfig/tradeConfigConfig.cmake' 'lib.*/pkgconfig/tradeConfig.pc'; do
     grep -qx "$file" "$work/files" || { echo "not of the sdk: $file"; exit 1; }
@@ -36,7 +39,7 @@ export HOME=$work/home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 mkdir "$HOME"
 
 # By the CMake package.
-cmake -S "$source/docs/host-example" -B "$work/host" -G Ninja \
+cmake -S "$work/prefix/share/tradeConfig/host-example" -B "$work/host" -G Ninja \
     -DCMAKE_PREFIX_PATH="$work/prefix" >"$work/configure.log"
 cmake --build "$work/host" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
 "$work/host/settingsHost" --once | tee "$work/said"
