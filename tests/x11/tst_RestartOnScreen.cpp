@@ -4,68 +4,18 @@
 #include "support/Files.h"
 #include "support/TestMain.h"
 #include "tradeConfig/CTradeConfigWidget.h"
+#include "x11/OtherWindows.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QSettings>
-
-#include <memory>
 
 namespace {
 
-constexpr int patience = 15000;
-
-QByteArray run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished(patience);
-    return process.readAllStandardOutput();
-}
-
-// Window ids are given out anew, so a window is known by its title.
-QList<QByteArray> windowsNamed(const QString& title)
-{
-    QList<QByteArray> ids = run(QStringLiteral("xdotool"),
-                                {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                 QStringLiteral("--name"), QStringLiteral("^%1$").arg(title)})
-                                .split('\n');
-    ids.removeAll(QByteArray());
-    return ids;
-}
-
-// xdotool's own idea of a place counts the window manager's frame twice.
-QRect geometryOf(const QByteArray& window)
-{
-    const QByteArray told
-        = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), QString::fromLatin1(window)});
-    const auto value = [&told](const char* label) {
-        const int at = told.indexOf(label);
-        const QByteArray rest = at < 0 ? QByteArray() : told.mid(at + int(qstrlen(label)));
-        return rest.left(rest.indexOf('\n')).trimmed().toInt();
-    };
-    return QRect(value("Absolute upper-left X:"), value("Absolute upper-left Y:"), value("Width:"),
-                 value("Height:"));
-}
-
 void click(const QPoint& position)
 {
-    run(QStringLiteral("xdotool"),
-        {QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
-         QStringLiteral("click"), QStringLiteral("1")});
-}
-
-void press(const QStringList& keys)
-{
-    run(QStringLiteral("xdotool"),
-        QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} + keys);
-}
-
-void activate(const QByteArray& window)
-{
-    run(QStringLiteral("xdotool"),
-        {QStringLiteral("windowactivate"), QStringLiteral("--sync"), QString::fromLatin1(window)});
+    xdotool({QStringLiteral("mousemove"), QString::number(position.x()),
+             QString::number(position.y()), QStringLiteral("click"), QStringLiteral("1")});
 }
 
 } // namespace

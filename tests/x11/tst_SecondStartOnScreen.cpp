@@ -1,23 +1,10 @@
 #include "support/Files.h"
 #include "support/TestMain.h"
-#include "x11/Xdotool.h"
+#include "x11/OtherWindows.h"
 
 #include <memory>
 
 namespace {
-
-QByteArray answerOf(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished(patience);
-    return process.readAllStandardOutput().trimmed();
-}
-
-QByteArray xdotoolSays(const QStringList& arguments)
-{
-    return answerOf(QStringLiteral("xdotool"), arguments);
-}
 
 bool isMinimised(const QByteArray& window)
 {
@@ -26,8 +13,6 @@ bool isMinimised(const QByteArray& window)
                {QStringLiteral("-id"), QString::fromLatin1(window), QStringLiteral("WM_STATE")})
         .contains("Iconic");
 }
-
-QByteArray activeWindow() { return xdotoolSays({QStringLiteral("getactivewindow")}); }
 
 } // namespace
 
@@ -87,11 +72,9 @@ void tst_SecondStartOnScreen::bringsTheWindowToTheFront()
 {
     QFETCH(const bool, minimised);
     const auto first = startClient();
-    const QStringList search{QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                             QStringLiteral("--name"), QStringLiteral("^交易客户端$")};
+    const QString title = QStringLiteral("交易客户端");
     QByteArray window;
-    QTRY_VERIFY_WITH_TIMEOUT(!(window = xdotoolSays(search)).isEmpty(), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(activeWindow(), window, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!(window = activeWindowNamed(title)).isEmpty(), patience);
 
     // Another program's window, which its user works in.
     QWidget other;
@@ -112,7 +95,7 @@ void tst_SecondStartOnScreen::bringsTheWindowToTheFront()
     QCOMPARE(second->exitCode(), 0);
     QTRY_COMPARE_WITH_TIMEOUT(activeWindow(), window, patience);
     QVERIFY(!isMinimised(window));
-    QCOMPARE(xdotoolSays(search), window);
+    QCOMPARE(windowsNamed(title), QList<QByteArray>{window});
     QCOMPARE(first->state(), QProcess::Running);
 
     first->terminate();
