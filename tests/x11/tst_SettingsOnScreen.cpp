@@ -33,7 +33,7 @@ struct Settings {
         window = new SettingsWindow(dialog, nullptr);
         ui = &dialog->ui;
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QVERIFY(QTest::qWaitForWindowExposed(window, patience));
         activate(*window);
         QTRY_VERIFY_WITH_TIMEOUT(window->isActiveWindow(), patience);
     }
