@@ -1,7 +1,7 @@
 #include "client/Screenshots.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPixmap>
 #include <QStackedWidget>
 #include <QWidget>
@@ -20,26 +20,25 @@ constexpr Group groups[] = {
     {"shortcut", "widget_shortcut", "stackedWidget_shortcut"},
 };
 
-void click(QWidget* widget, const QPoint& position)
+// Presses one part of a bar or a list, as a user of assistive technology does. What the parts are
+// and where they lie is theirs.
+void press(QWidget* widget, int part)
 {
-    if (!widget)
+    QAccessibleInterface* const whole
+        = widget ? QAccessible::queryAccessibleInterface(widget) : nullptr;
+    QAccessibleInterface* const pressed = whole ? whole->child(part) : nullptr;
+    QAccessibleActionInterface* const actions = pressed ? pressed->actionInterface() : nullptr;
+    if (!actions)
         return;
-    const QPoint global = widget->mapToGlobal(position);
-    QMouseEvent press(QEvent::MouseButtonPress, position, global, Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QMouseEvent release(QEvent::MouseButtonRelease, position, global, Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(widget, &press);
-    QCoreApplication::sendEvent(widget, &release);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    QEvent leave(QEvent::Leave); // the highlight goes with the mouse, which was never there
     QCoreApplication::sendEvent(widget, &leave);
 }
 
-// By the list, as a user would, so that it shows its selection; pages that no list leads to
-// are turned up directly.
-void select(QStackedWidget* stack, QWidget* list, const QPoint& position, int index)
+// By the list, so that it shows its selection; pages that no list leads to are turned up directly.
+void select(QStackedWidget* stack, QWidget* list, int index)
 {
-    click(list, position);
+    press(list, index);
     if (stack->currentIndex() != index)
         stack->setCurrentIndex(index);
 }
@@ -48,10 +47,6 @@ void select(QStackedWidget* stack, QWidget* list, const QPoint& position, int in
 
 Pictures writeScreenshots(QWidget& dialog, const QString& directory)
 {
-    constexpr int switchWidth = 219;
-    constexpr int switchHeight = 60;
-    constexpr int entryHeight = 50;
-
     Pictures pictures(directory);
     auto* const top = dialog.findChild<QStackedWidget*>(QStringLiteral("stackedWidget"));
     auto* const bar = dialog.findChild<QWidget*>(QStringLiteral("switchex_widget"));
@@ -66,9 +61,9 @@ Pictures writeScreenshots(QWidget& dialog, const QString& directory)
                                    .arg(QLatin1String(names.stack));
             return pictures;
         }
-        select(top, bar, QPoint(group * switchWidth + switchWidth / 2, switchHeight / 2), group);
+        select(top, bar, group);
         for (int page = 0; page < stack->count(); ++page) {
-            select(stack, list, QPoint(60, page * entryHeight + entryHeight / 2), page);
+            select(stack, list, page);
             QCoreApplication::processEvents();
             const QString name = QStringLiteral("%1-%2-%3")
                                      .arg(QLatin1String(names.name))

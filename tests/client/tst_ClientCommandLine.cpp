@@ -47,6 +47,7 @@ private Q_SLOTS:
     void outputThatCannotBeWritten();
     void screenshots_data();
     void screenshots();
+    void screenshotsShowWhatIsSelected();
     void screenshotsIntoAFile();
     void galleryScreenshots();
     void skinThatCannotBeUsed_data();
@@ -367,6 +368,26 @@ void tst_ClientCommandLine::screenshots()
     QCOMPARE(different.size(), 10);
     QVERIFY2(!QFileInfo::exists(data(QStringLiteral("config/trade_parameters.json"))),
              "taking pictures stores nothing");
+}
+
+void tst_ClientCommandLine::screenshotsShowWhatIsSelected()
+{
+    const Outcome outcome
+        = run({QStringLiteral("--screenshots"), m_home->filePath(QStringLiteral("pictures"))});
+    QHash<QString, QImage> pages;
+    for (const QByteArray& file : outcome.output.trimmed().split('\n'))
+        pages.insert(QFileInfo(QString::fromUtf8(file)).baseName(),
+                     QImage(QString::fromUtf8(file)));
+    const auto list = [&pages](const char* page) {
+        return pages.value(QLatin1String(page)).copy(0, 62, 120, 400);
+    };
+    const auto bar = [&pages](const char* page) {
+        return pages.value(QLatin1String(page)).copy(0, 0, 659, 60);
+    };
+    QVERIFY(!list("system-1-page_3").isNull());
+    QVERIFY(list("system-1-page_3") != list("system-2-page_4"));
+    QVERIFY(bar("system-1-page_3") == bar("system-2-page_4"));
+    QVERIFY(bar("system-1-page_3") != bar("trade-1-page_6"));
 }
 
 void tst_ClientCommandLine::galleryScreenshots()
