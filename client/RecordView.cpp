@@ -39,7 +39,6 @@ RecordView::RecordView(QWidget* parent)
     , m_summary(new QLabel(tr("尚未修改")))
     , m_table(makeTable())
 {
-    m_filter->setSourceModel(m_model);
     m_summary->setObjectName(QStringLiteral("label_summary"));
     m_search->setObjectName(QStringLiteral("lineEdit_search"));
     m_search->setPlaceholderText(tr("搜索参数、字段或数值"));
@@ -65,6 +64,7 @@ RecordView::RecordView(QWidget* parent)
 QTableView* RecordView::makeTable()
 {
     auto* const table = new QTableView;
+    m_filter->setSourceModel(m_model); // before its columns get their widths
     table->setModel(m_filter);
     table->setObjectName(QStringLiteral("tableView_record"));
     table->setAlternatingRowColors(true);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void findsByEitherLanguage_data();
     void findsByEitherLanguage();
     void findsAmongTheChangedOnly();
+    void columnsSuitWhatTheyHold();
     void copiesRows();
     void copiesByTheKeyboard();
     void copiesNothingOfNothing();
@@ -175,6 +176,17 @@ void tst_RecordView::findsAmongTheChangedOnly()
     QCOMPARE(shown(view), QStringList{QStringLiteral("splitMaxQty")});
     view.search()->setText(QStringLiteral("原为 30"));
     QCOMPARE(shown(view), QStringList{QStringLiteral("lockMinutes")});
+}
+
+void tst_RecordView::columnsSuitWhatTheyHold()
+{
+    const RecordView view;
+    view.model()->show(OwnedRecord());
+    for (const int column : {RecordModel::TitleColumn, RecordModel::NameColumn}) {
+        const QString text = view.model()->index(0, column).data().toString();
+        QVERIFY(view.table()->columnWidth(column)
+                > view.table()->fontMetrics().horizontalAdvance(text));
+    }
 }
 
 void tst_RecordView::copiesRows()
