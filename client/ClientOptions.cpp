@@ -18,7 +18,7 @@ struct Parser : QCommandLineParser {
 
     const QCommandLineOption screenshots{
         QStringLiteral("screenshots"),
-        ClientOptions::tr("将设置窗口的每一页按实际大小保存为 PNG 文件后退出。"),
+        ClientOptions::tr("将设置窗口的每一页和主窗口按实际大小保存为 PNG 文件后退出。"),
         ClientOptions::tr("目录")};
     const QCommandLineOption printRecord{QStringLiteral("print-record"),
                                          ClientOptions::tr("以 JSON 格式输出交易参数后退出。")};

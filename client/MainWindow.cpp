@@ -39,13 +39,13 @@ MainWindow::MainWindow(const SettingsModule& module, TradeCore& core,
     buildView();
     connectRecord();
 
-    const QSize wanted(980, 680);
     const QSize usualFrame(4, 40);
-    resize(wanted.boundedTo(screen()->availableSize() - usualFrame));
-    WindowMemory::restore(m_directory, *this, *m_view);
+    resize(usualSize().boundedTo(screen()->availableSize() - usualFrame));
 }
 
-MainWindow::~MainWindow() { WindowMemory::keep(m_directory, *this, *m_view); }
+void MainWindow::restorePlace() { WindowMemory::restore(m_directory, *this, *m_view); }
+
+void MainWindow::keepPlace() const { WindowMemory::keep(m_directory, *this, *m_view); }
 
 RecordModel* MainWindow::model() const { return m_view->model(); }
 

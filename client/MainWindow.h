@@ -21,7 +21,13 @@ public:
     /// The arguments must outlive the window.
     MainWindow(const SettingsModule& module, TradeCore& core, const DataDirectory& directory,
                QWidget* parent = nullptr);
-    ~MainWindow() override;
+
+    /// Where there is room for it.
+    static QSize usualSize() { return {980, 680}; }
+
+    /// As it was left when it was last kept, for the next start.
+    void restorePlace();
+    void keepPlace() const;
 
     /// Opens the settings, or brings them to the front when they are open.
     void openSettings();

@@ -2,6 +2,7 @@
 
 #include "appearance/Pictures.h"
 #include "client/ExpectedHome.h"
+#include "client/MainWindow.h"
 #include "client/Messages.h"
 #include "client/Screenshots.h"
 #include "client/SettingsModule.h"
@@ -25,7 +26,11 @@ int drawPages(const SettingsModule& module, const DataDirectory& directory, cons
         return Messages::complain(
             QCoreApplication::translate("Reading", "设置模块 %1 无法创建设置窗口")
                 .arg(module.fileName()));
-    const int status = Reading::listPictures(writeScreenshots(*dialog, target));
+    Pictures pictures = writeScreenshots(*dialog, target);
+    MainWindow window(module, core, directory);
+    window.resize(MainWindow::usualSize());
+    pictures.add(QStringLiteral("client"), window.grab());
+    const int status = Reading::listPictures(pictures);
     return report.isClean() ? status : Messages::complain(report.message());
 }
 

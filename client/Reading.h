@@ -17,8 +17,9 @@ int listPictures(const Pictures& pictures);
 /// status a failure.
 int printRecord(const DataDirectory& directory);
 
-/// Writes the pages of the settings dialog into the directory @p target, which is created if it is
-/// missing, and prints the names of the pictures. Faults of the record's file are said as above.
+/// Writes the pages of the settings dialog, and the client's window, into the directory @p target,
+/// which is created if it is missing, and prints the names of the pictures. Faults of the record's
+/// file are said as above.
 int writePages(const SettingsModule& module, const DataDirectory& directory, const QString& target);
 
 } // namespace Reading

@@ -25,6 +25,7 @@ RecordActions::RecordActions(TradeCore& core, QWidget* window)
     , m_restore(add("action_restore", tr("恢复默认值(&D)…"), &RecordActions::restoreDefaults))
     , m_undo(add("action_undo", tr("撤消(&U)"), &RecordActions::undo))
 {
+    m_undo->setIconText(tr("撤消"));
     m_undo->setEnabled(false);
 }
 

@@ -132,12 +132,14 @@ int runClient(const SettingsModule& module, SkinSwitcher& skins, const QStringLi
     {
         MainWindow window(module, core, directory);
         skins.fill(window.skinMenu());
+        window.restorePlace();
         window.show();
         const FrontRequests requests(directory);
         QObject::connect(&requests, &FrontRequests::arrived, &window, &MainWindow::comeToFront);
         for (const QString& trouble : qAsConst(troubles))
             Messages::tell(QMessageBox::Warning, trouble);
         status = QCoreApplication::exec();
+        window.keepPlace();
     }
     const QString failure = core.storeIfChanged();
     return failure.isEmpty() ? status : Messages::fail(failure);

@@ -29,6 +29,7 @@ constexpr PageRow pageRows[] = {
     {"image-button", QT_TRANSLATE_NOOP("Gallery", "图片按钮"), GalleryPages::imageButtons},
     {"message-box", QT_TRANSLATE_NOOP("Gallery", "消息框"), GalleryPages::messageBoxes},
     {"hints", QT_TRANSLATE_NOOP("Gallery", "提示与按键"), GalleryPages::hints},
+    {"icons", QT_TRANSLATE_NOOP("Gallery", "图标"), GalleryPages::icons},
 };
 
 } // namespace

@@ -12,5 +12,6 @@ QWidget* captionBars();
 QWidget* imageButtons();
 QWidget* messageBoxes();
 QWidget* hints();
+QWidget* icons();
 
 } // namespace GalleryPages

@@ -676,10 +676,6 @@ Change the values marked red until they turn green, then press OK again.</transl
         <translation>Desktop stock-trading client</translation>
     </message>
     <message>
-        <source>将设置窗口的每一页按实际大小保存为 PNG 文件后退出。</source>
-        <translation>Save every page of the settings window in its real size to PNG files and quit.</translation>
-    </message>
-    <message>
         <source>目录</source>
         <translation>directory</translation>
     </message>
@@ -738,6 +734,10 @@ Change the values marked red until they turn green, then press OK again.</transl
     <message>
         <source>--check-skin 需要一个目录</source>
         <translation>--check-skin needs a directory</translation>
+    </message>
+    <message>
+        <source>将设置窗口的每一页和主窗口按实际大小保存为 PNG 文件后退出。</source>
+        <translation>Save every page of the settings window, and the main window, in their real sizes to PNG files and quit.</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1220,42 @@ Change the values marked red until they turn green, then press OK again.</transl
         <source>控件展示</source>
         <translation>Widget gallery</translation>
     </message>
+    <message>
+        <source>图标</source>
+        <translation>Icons</translation>
+    </message>
+    <message>
+        <source>严重错误</source>
+        <translation>Critical</translation>
+    </message>
+    <message>
+        <source>问题</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>撤消</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>由皮肤提供，按每种大小重新绘制。</source>
+        <translation>The skin provides them; they are drawn afresh for every size.</translation>
+    </message>
+    <message>
+        <source>消息框图标</source>
+        <translation>Message box icons</translation>
+    </message>
+    <message>
+        <source>工具栏图标</source>
+        <translation>Tool bar icons</translation>
+    </message>
+    <message>
+        <source>%1，禁用</source>
+        <translation>%1, disabled</translation>
+    </message>
 </context>
 <context>
     <name>Instance</name>
@@ -1469,6 +1505,10 @@ A copy of the current ones is kept.</translation>
     <message>
         <source>撤消恢复默认值(&amp;U)</source>
         <translation>&amp;Undo Restoring Defaults</translation>
+    </message>
+    <message>
+        <source>撤消</source>
+        <translation>Undo</translation>
     </message>
 </context>
 <context>

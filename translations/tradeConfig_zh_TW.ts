@@ -676,10 +676,6 @@
         <translation>桌面證券交易用戶端</translation>
     </message>
     <message>
-        <source>将设置窗口的每一页按实际大小保存为 PNG 文件后退出。</source>
-        <translation>將設定視窗的每一頁以實際大小儲存為 PNG 檔案後結束。</translation>
-    </message>
-    <message>
         <source>目录</source>
         <translation>目錄</translation>
     </message>
@@ -738,6 +734,10 @@
     <message>
         <source>--check-skin 需要一个目录</source>
         <translation>--check-skin 需要一個目錄</translation>
+    </message>
+    <message>
+        <source>将设置窗口的每一页和主窗口按实际大小保存为 PNG 文件后退出。</source>
+        <translation>將設定視窗的每一頁和主視窗按實際大小儲存為 PNG 檔案後結束。</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1220,42 @@
         <source>控件展示</source>
         <translation>控制項展示</translation>
     </message>
+    <message>
+        <source>图标</source>
+        <translation>圖示</translation>
+    </message>
+    <message>
+        <source>严重错误</source>
+        <translation>嚴重錯誤</translation>
+    </message>
+    <message>
+        <source>问题</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>撤消</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>由皮肤提供，按每种大小重新绘制。</source>
+        <translation>由外觀提供，按每種大小重新繪製。</translation>
+    </message>
+    <message>
+        <source>消息框图标</source>
+        <translation>訊息框圖示</translation>
+    </message>
+    <message>
+        <source>工具栏图标</source>
+        <translation>工具列圖示</translation>
+    </message>
+    <message>
+        <source>%1，禁用</source>
+        <translation>%1，停用</translation>
+    </message>
 </context>
 <context>
     <name>Instance</name>
@@ -1464,6 +1500,10 @@
     <message>
         <source>撤消恢复默认值(&amp;U)</source>
         <translation>復原還原預設值(&amp;U)</translation>
+    </message>
+    <message>
+        <source>撤消</source>
+        <translation>復原</translation>
     </message>
 </context>
 <context>

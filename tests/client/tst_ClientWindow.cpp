@@ -324,8 +324,9 @@ void tst_ClientWindow::comesBackAsItWasLeft()
     m_window->resize(600, 420);
     m_window->findChild<QLineEdit*>(QStringLiteral("lineEdit_search"))
         ->setText(QStringLiteral("split"));
-    m_window.reset();
+    m_window->keepPlace();
     m_window = std::make_unique<MainWindow>(m_module, *m_core, *m_directory);
+    m_window->restorePlace();
     QCOMPARE(m_window->size(), QSize(600, 420));
     QCOMPARE(m_window->findChild<QLineEdit*>(QStringLiteral("lineEdit_search"))->text(),
              QStringLiteral("split"));

@@ -89,7 +89,7 @@ void tst_Gallery::pages()
     }
     QCOMPARE(names.join(QLatin1Char(' ')),
              QStringLiteral("switch-horizontal switch-vertical navigation caption image-button "
-                            "message-box hints"));
+                            "message-box hints icons"));
     QVERIFY(m_gallery->skinMenu()->isEmpty());
 }
 
@@ -388,7 +388,7 @@ void tst_Gallery::screenshots()
         Gallery gallery;
         const Pictures result = gallery.writeScreenshots(directory.filePath(skin));
         QCOMPARE(result.failure, QString());
-        QCOMPARE(result.files.size(), 7);
+        QCOMPARE(result.files.size(), 8);
         QCOMPARE(QFileInfo(result.files.first()).fileName(),
                  QStringLiteral("gallery-1-switch-horizontal.png"));
         for (const QString& file : result.files) {
@@ -397,7 +397,7 @@ void tst_Gallery::screenshots()
             pictures[skin] += picture;
         }
     }
-    for (int index = 0; index < 7; ++index) {
+    for (int index = 0; index < 8; ++index) {
         QCOMPARE(pictures[skins[0]][index].size(), pictures[skins[1]][index].size());
         QVERIFY(pictures[skins[0]][index] != pictures[skins[1]][index]);
     }
