@@ -569,7 +569,7 @@ void tst_RecordRoundTrip::risePriceItems()
         = {{&TradeParm::starBuyRiseChoices, "comboBox_trade_kc_buyRise"},
            {&TradeParm::starSellRiseChoices, "comboBox_trade_kc_sellRise"}};
     for (const auto& [choices, name] : sides) {
-        PlainDialog dialog([&](FakeTrade& trade) {
+        PlainDialog dialog([&, choices = choices](FakeTrade& trade) {
             for (int item = 0; item < 3; ++item)
                 (trade.parm().*choices)[item] = percentages.at(item);
         });
