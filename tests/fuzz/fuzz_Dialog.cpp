@@ -6,6 +6,7 @@
 #include "client/RecordFields.h"
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzSetup.h"
+#include "fuzz/RandomRecord.h"
 #include "support/FakeTrade.h"
 #include "support/Files.h"
 #include "tradeConfig/CTradeConfigWidget.h"
@@ -71,28 +72,6 @@ private:
     FuzzInput& m_input;
     QTimer m_timer;
 };
-
-QByteArray someKeys(FuzzInput& input)
-{
-    constexpr const char* known[] = {"", "F5", "F12", "Ctrl+A", "Alt+B", "Ctrl+Shift+F1", "空"};
-    const int choice = input.below(int(std::size(known)) + 1);
-    return choice < int(std::size(known)) ? QByteArray(known[choice]) : input.bytes(20);
-}
-
-void fillRecord(FakeTrade& trade, FuzzInput& input)
-{
-    constexpr const char* pages[] = {"", "ptmr", "ptmc", "zjgp", "ptm", "zjgp "};
-    for (const Field& field : RecordFields::all()) {
-        for (int i = 0; field.kind == Kind::Integer && i < field.count; ++i)
-            RecordFields::setInteger(trade.parm(), field, i, input.integer());
-    }
-    const int page = input.below(int(std::size(pages)) + 1);
-    trade.setDefaultPage(page < int(std::size(pages)) ? QByteArray(pages[page]) : input.bytes(20));
-    for (int entry = 0; entry < 13; ++entry) {
-        trade.setText(&TradeParm::stockShortcuts, entry, someKeys(input));
-        trade.setText(&TradeParm::creditShortcuts, entry, someKeys(input));
-    }
-}
 
 Qt::KeyboardModifiers modifiers(FuzzInput& input)
 {
@@ -174,10 +153,12 @@ void callSlot(CTradeConfigWidget& dialog, QWidget* target, FuzzInput& input)
 {
     switch (input.below(16)) {
     case 0:
-        dialog.CellEditFinished(input.integer(), QString::fromLocal8Bit(someKeys(input)));
+        dialog.CellEditFinished(input.integer(),
+                                QString::fromLocal8Bit(RandomRecord::someKeys(input)));
         break;
     case 1:
-        dialog.CellEditFinished2(input.integer(), QString::fromLocal8Bit(someKeys(input)));
+        dialog.CellEditFinished2(input.integer(),
+                                 QString::fromLocal8Bit(RandomRecord::someKeys(input)));
         break;
     case 2:
         dialog.SelectFcSplit(input.integer());
@@ -319,7 +300,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
               "[UI]\nlanguage=" + input.bytes(6) + "\nscale=" + QByteArray::number(input.integer())
                   + '\n');
     FakeTrade trade;
-    fillRecord(trade, input);
+    RandomRecord::fill(trade, input);
     OwnedRecord before;
     for (const Field& field : RecordFields::all()) {
         for (int i = 0; field.kind == Kind::Integer && i < field.count; ++i)
