@@ -78,7 +78,7 @@ QTableView* RecordView::makeTable()
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->horizontalHeader()->setStretchLastSection(true);
     const int em = table->fontMetrics().horizontalAdvance(QLatin1Char('M'));
-    constexpr int columnWidths[] = {20, 15, 10, 12};
+    constexpr int columnWidths[] = {17, 14, 7, 14};
     for (int column = 0; column < RecordModel::ChangeColumn; ++column)
         table->setColumnWidth(column, columnWidths[column] * em);
     auto* const copy = new QAction(tr("复制(&C)"), table);
