@@ -76,15 +76,19 @@ double feetRoom(const QPainter& painter, const QRect& row, double baseline, cons
     return feetStickOut && headsHaveRoom ? pixel : 0.0;
 }
 
-/// How far the box of @p text begins above its baseline. A font that falls back for Chinese
-/// reserves more there than it does for letters.
-double ascentOf(const QString& text, const QFont& font)
+struct TextBox {
+    double ascent; ///< how far it begins above the baseline
+    double height;
+};
+
+/// The box of @p text. A font that falls back for Chinese reserves more there than for letters.
+TextBox boxOf(const QString& text, const QFont& font)
 {
     QTextLayout layout(text, font);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
     layout.endLayout();
-    return line.ascent();
+    return {line.ascent(), line.height()};
 }
 
 /// The skin's image for a picture; empty for those that the toolkit draws.
@@ -130,7 +134,7 @@ void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
     double baseline = lineTop(rect, metrics) + metrics.ascent();
     if (rect.height() < metrics.height())
         baseline -= feetRoom(*painter, rect, baseline, text);
-    const double ascent = ascentOf(text, painter->font());
+    const double ascent = boxOf(text, painter->font()).ascent;
     const QRectF box(rect.x(), baseline - ascent, rect.width(), ascent + metrics.height());
     const QPen pen = painter->pen();
     if (role != QPalette::NoRole)
@@ -153,8 +157,16 @@ QRect SkinStyle::subElementRect(SubElement element, const QStyleOption* option,
     const auto* const item = element == SE_ItemViewItemText
         ? qstyleoption_cast<const QStyleOptionViewItem*>(option)
         : nullptr;
-    if (item)
-        rect.translate(0, item->fontMetrics.ascent() - qRound(ascentOf(item->text, item->font)));
+    // Without a text the rectangle is for a widget in the cell, which fills it.
+    if (item && !item->text.isEmpty()) {
+        // The toolkit puts the middle of the text's box into the middle of this rectangle.
+        const double wanted
+            = rect.y() + (rect.height() + QFontMetrics(item->font).capHeight()) / 2.0;
+        const TextBox box = boxOf(item->text, item->font);
+        const int top = rect.y() + rect.height() / 2 - int(box.height) / 2;
+        const double baseline = top + box.ascent;
+        rect.translate(0, qRound(wanted - baseline));
+    }
     return rect;
 }
 

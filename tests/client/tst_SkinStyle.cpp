@@ -2,6 +2,7 @@
 #include "libskin/SkinLibrary.h"
 #include "support/Contrast.h"
 #include "support/TestMain.h"
+#include "support/TextInk.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -10,6 +11,8 @@
 #include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
+
+#include <cmath>
 
 using CorvelSkin::SkinLibrary;
 
@@ -40,6 +43,8 @@ private Q_SLOTS:
     void focusIsShownOnTheBox();
     void lineIsSeenAtEveryScale_data();
     void lineIsSeenAtEveryScale();
+    void rowOfATableIsOneLine_data();
+    void rowOfATableIsOneLine();
 };
 
 void tst_SkinStyle::initTestCase() { QApplication::setStyle(new SkinStyle); }
@@ -242,6 +247,37 @@ void tst_SkinStyle::lineIsSeenAtEveryScale()
         wasLine = isLine;
     }
     QCOMPARE(lines, 4);
+}
+
+void tst_SkinStyle::rowOfATableIsOneLine_data()
+{
+    QTest::addColumn<int>("pixelSize");
+    for (const int size : {12, 13, 14, 15, 16, 18, 20, 24})
+        QTest::addRow("%d", size) << size;
+}
+
+// Capitals and ideographs have their middles at the same height, whichever font they come from.
+void tst_SkinStyle::rowOfATableIsOneLine()
+{
+    QFETCH(const int, pixelSize);
+    QTableWidget table(1, 2);
+    QFont font = table.font();
+    font.setPixelSize(pixelSize);
+    table.setFont(font);
+    table.setShowGrid(false);
+    table.setRowHeight(0, 2 * pixelSize);
+    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("默认买入")));
+    table.setItem(0, 1, new QTableWidgetItem(QStringLiteral("HEX500")));
+    table.resize(400, 200);
+    const QImage image = renderedAt(*table.viewport(), 1.0);
+    const QRect chinese = textInk(image, table.visualItemRect(table.item(0, 0))).box;
+    const QRect latin = textInk(image, table.visualItemRect(table.item(0, 1))).box;
+    const auto middle = [](const QRect& box) { return box.top() + box.height() / 2.0; };
+    QVERIFY2(std::abs(middle(chinese) - middle(latin)) <= 1.0,
+             qPrintable(QStringLiteral("%1 and %2").arg(middle(chinese)).arg(middle(latin))));
+    // Both in the middle of the row.
+    QVERIFY2(std::abs(middle(latin) - pixelSize) <= 1.0,
+             qPrintable(QString::number(middle(latin))));
 }
 
 TRADECONFIG_TEST_MAIN(tst_SkinStyle)
