@@ -317,7 +317,7 @@ void tst_ClientCommandLine::outputThatCannotBeWritten()
 {
     const QString full = QStringLiteral("/dev/full");
     if (!QFileInfo::exists(full))
-        QSKIP("There is no such device");
+        TEST_SKIP("There is no such device");
     QProcess process;
     process.setProcessEnvironment(environment());
     process.setStandardOutputFile(full);

@@ -34,7 +34,7 @@ void tst_ExpectedHome::isWhereTheModuleLooks()
 void tst_ExpectedHome::followsTheEnvironment_data()
 {
 #ifdef Q_OS_MACOS
-    QSKIP("HOME counts for nothing there");
+    TEST_SKIP("HOME counts for nothing there");
 #endif
     QTest::addColumn<QByteArray>("home");
     QTest::addColumn<QString>("expected");
@@ -74,7 +74,7 @@ void tst_ExpectedHome::problem_data()
 void tst_ExpectedHome::problem()
 {
 #ifdef Q_OS_MACOS
-    QSKIP("HOME counts for nothing there");
+    TEST_SKIP("HOME counts for nothing there");
 #endif
     QFETCH(const QString, home);
     QFETCH(const QByteArray, reason);
@@ -110,7 +110,7 @@ void tst_ExpectedHome::make_data()
 void tst_ExpectedHome::make()
 {
 #ifdef Q_OS_MACOS
-    QSKIP("HOME counts for nothing there");
+    TEST_SKIP("HOME counts for nothing there");
 #endif
     QFETCH(const QString, home);
     QFETCH(const QByteArray, reason);

@@ -194,7 +194,7 @@ void tst_FrontRequests::belongsToTheUserAlone()
     QCOMPARE(int(status.st_mode & 07777), 0600);
 
     if (geteuid() != 0)
-        QSKIP("Only the superuser can become somebody else");
+        TEST_SKIP("Only the superuser can become somebody else");
     QCOMPARE(::chmod(QFile::encodeName(m_home->path()).constData(), 0755), 0);
     const Unprivileged nobody({});
     QCOMPARE(connectTo(socketFile()), -1);

@@ -155,7 +155,7 @@ void tst_RecordActions::exportsNotOverItself()
 void tst_RecordActions::exportThatFails()
 {
     if (!QFileInfo::exists(QStringLiteral("/proc/self")))
-        QSKIP("No place at hand where nobody may write");
+        TEST_SKIP("No place at hand where nobody may write");
     const Answers answers(QStringLiteral("/proc/mine.json"), {QMessageBox::Ok});
     action("action_export")->trigger();
     QVERIFY2(answers.texts.value(0).contains(QStringLiteral("/proc/mine.json")),

@@ -149,7 +149,7 @@ void tst_ToolkitTexts::keysKeepTheirNames_data()
 void tst_ToolkitTexts::keysKeepTheirNames()
 {
 #ifdef Q_OS_MACOS
-    QSKIP("Key names of this system are signs");
+    TEST_SKIP("Key names of this system are signs");
 #endif
     QFETCH(const QString, key);
     speak(QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(' '), 0, 0));
