@@ -35,7 +35,6 @@ struct ModuleSide {
     using List = CNavWidget;
     using Bar = CSwitchEx;
 
-    static constexpr bool isModule = true;
     static void confirm(Dialog& dialog) { dialog.WriteAllParm(); }
     static void fill(List& list, const QStringList& entries) { list.SetBtnList(entries); }
     static std::unique_ptr<Bar> makeBar()
@@ -56,7 +55,6 @@ struct FloorSide {
     using List = FloorList;
     using Bar = FloorBar;
 
-    static constexpr bool isModule = false;
     static void confirm(Dialog& dialog) { dialog.confirm(); }
     static void fill(List& list, const QStringList& entries) { list.entries = entries; }
     static std::unique_ptr<Bar> makeBar() { return std::make_unique<Bar>(); }

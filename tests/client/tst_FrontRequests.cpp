@@ -11,9 +11,12 @@
 #include <memory>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#ifdef Q_OS_LINUX
+#include <sys/syscall.h>
+#endif
 
 namespace {
 

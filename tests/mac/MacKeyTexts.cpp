@@ -79,8 +79,8 @@ void macConstruct(QKeySequence* self, const QString& text, int format)
         *self = QKeySequence((*self)[0] | held);
 }
 
-extern "C" __attribute__((visibility("default"))) QString macToString(const QKeySequence* self,
-                                                                      int format) asm(TO_STRING);
+__attribute__((visibility("default"))) QString macToString(const QKeySequence* self,
+                                                           int format) asm(TO_STRING);
 QString macToString(const QKeySequence* self, int format)
 {
     if (format != QKeySequence::NativeText || self->isEmpty())

@@ -569,9 +569,9 @@ void tst_RecordRoundTrip::risePriceItems()
         = {{&TradeParm::starBuyRiseChoices, "comboBox_trade_kc_buyRise"},
            {&TradeParm::starSellRiseChoices, "comboBox_trade_kc_sellRise"}};
     for (const auto& [choices, name] : sides) {
-        PlainDialog dialog([&, choices = choices](FakeTrade& trade) {
+        PlainDialog dialog([&, member = choices](FakeTrade& trade) {
             for (int item = 0; item < 3; ++item)
-                (trade.parm().*choices)[item] = percentages.at(item);
+                (trade.parm().*member)[item] = percentages.at(item);
         });
         const auto* const combo = dialog->findChild<QComboBox*>(latin(name));
         QCOMPARE(combo->count(), 3);

@@ -29,7 +29,7 @@ extern "C" {
 void* __libc_malloc(std::size_t size);
 
 // Stands before the C library's own for the whole process.
-void* malloc(std::size_t size)
+__attribute__((visibility("default"))) void* malloc(std::size_t size)
 {
     ++allocations();
     return __libc_malloc(size);
