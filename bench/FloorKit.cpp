@@ -18,11 +18,12 @@ const QColor buttonBorder(0xD3, 0xDA, 0xE4);
 const QColor buttonText(0x3D, 0x47, 0x54);
 const QColor greyText(0x7F, 0x88, 0x96);
 
-// Names the one family that the skins' lists come to here.
 QFont makeFont(int weight)
 {
     QFont font;
-    font.setFamilies({QStringLiteral("Noto Sans CJK SC")});
+    font.setFamilies({QStringLiteral("PingFang SC"), QStringLiteral("PingFang TC"),
+                      QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC"),
+                      QStringLiteral("Source Han Sans SC"), QStringLiteral("sans-serif")});
     font.setPixelSize(13);
     font.setWeight(weight);
     return font;
