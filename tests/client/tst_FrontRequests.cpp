@@ -20,7 +20,7 @@
 
 namespace {
 
-bool hasSockets = true;
+[[maybe_unused]] bool hasSockets = true; // set on Linux only
 
 // As a second start does it.
 class Asking {
